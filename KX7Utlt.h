@@ -1,0 +1,8 @@
+#ifndef KX7UTLT_H
+#define KX7UTLT_H
+
+// The one header of a host program: every public class that the build offers.
+
+#include "platform/base/object.h"
+
+#endif

@@ -1,0 +1,4 @@
+#ifndef KX7_GEOMETRY_RECORDS_H
+#define KX7_GEOMETRY_RECORDS_H
+
+#endif

@@ -1,0 +1,107 @@
+#ifndef KX7_PLATFORM_BASE_OBJECT_H
+#define KX7_PLATFORM_BASE_OBJECT_H
+
+#include <cstddef>
+
+#include "platform/base/export.h"
+#include "platform/base/types.h"
+
+class CArchive;
+class CObject;
+
+/// The record of one class: its name, its base and how to make an object of it. One exists per class that
+/// uses a DECLARE_DYNAMIC, DECLARE_DYNCREATE or DECLARE_SERIAL macro, as the static member `class<Name>`.
+struct KX7_API CRuntimeClass
+{
+    char const * m_lpszClassName;               ///< Name as written in the source; goes into archives.
+    int m_nObjectSize;                          ///< Size of an object in bytes.
+    UINT m_wSchema;                             ///< Schema number in archives; 0xFFFF if it isn't serial.
+    CObject * (*m_pfnCreateObject)();           ///< Makes an object; null for a class that can't be made.
+    CRuntimeClass const * m_pBaseClass;         ///< Record of the base class; null for CObject.
+    CRuntimeClass const * m_pNextClass = nullptr;  ///< Next record in the process-wide list of serial classes.
+
+    /// Makes a new object of the class, owned by the caller; null if the class can't be made by record.
+    CObject * CreateObject() const;
+
+    /// Whether the class is `base` or derives from it, directly or over others.
+    bool IsDerivedFrom(CRuntimeClass const * base) const;
+
+    /// The record of a serial class by its name; null if no class of that name was registered.
+    static CRuntimeClass const * FromName(char const * name);
+};
+
+namespace detail
+{
+/// Puts the record of a serial class into the process-wide list while its module is loaded.
+class KX7_API ClassRegistration
+{
+  public:
+    explicit ClassRegistration(CRuntimeClass & record);
+    ~ClassRegistration();
+    ClassRegistration(ClassRegistration const &) = delete;
+    ClassRegistration & operator=(ClassRegistration const &) = delete;
+
+  private:
+    CRuntimeClass & m_record;
+};
+}  // namespace detail
+
+/// Root of all classes with run-time class information and archive form.
+class KX7_API CObject
+{
+  public:
+    CObject() = default;
+    CObject(CObject const &) = default;
+    CObject & operator=(CObject const &) = default;
+
+    /// The record of the object's own class.
+    virtual CRuntimeClass const * GetRuntimeClass() const;
+    virtual ~CObject() = default;
+
+    /// Writes the object to the archive or reads it from it; CObject itself stores nothing.
+    virtual void Serialize(CArchive & archive);
+
+    /// Diagnostic hooks; nothing here.
+    virtual void AssertValid() const {}
+    virtual void Dump() const {}
+
+    /// Whether the object's class is the record's class or derives from it.
+    bool IsKindOf(CRuntimeClass const * record) const;
+
+    /// Whether the class can be written to and read from archives as an object.
+    bool IsSerializable() const;
+
+    static CRuntimeClass const classCObject;
+};
+
+#define RUNTIME_CLASS(className) (&className::class##className)
+
+#define DECLARE_DYNAMIC(className)               \
+  public:                                        \
+    static CRuntimeClass const class##className; \
+    CRuntimeClass const * GetRuntimeClass() const override;
+
+#define DECLARE_DYNCREATE(className) \
+    DECLARE_DYNAMIC(className)       \
+    static CObject * CreateObject();
+
+#define DECLARE_SERIAL(className)      \
+  public:                              \
+    static CRuntimeClass class##className; \
+    CRuntimeClass const * GetRuntimeClass() const override; \
+    static CObject * CreateObject();   \
+    friend CArchive & operator>>(CArchive & archive, className *& object);
+
+#define IMPLEMENT_DYNAMIC(className, baseName)                                                         \
+    CRuntimeClass const className::class##className = {#className,  static_cast<int>(sizeof(className)), \
+                                                       0xFFFF, nullptr, RUNTIME_CLASS(baseName)};        \
+    CRuntimeClass const * className::GetRuntimeClass() const { return RUNTIME_CLASS(className); }
+
+#define IMPLEMENT_DYNCREATE(className, baseName)                                                         \
+    CObject * className::CreateObject() { return new className; }                                       \
+    CRuntimeClass const className::class##className = {#className,  static_cast<int>(sizeof(className)),   \
+                                                       0xFFFF, &className::CreateObject,                   \
+                                                       RUNTIME_CLASS(baseName)};                           \
+    CRuntimeClass const * className::GetRuntimeClass() const { return RUNTIME_CLASS(className); }
+
+#endif
