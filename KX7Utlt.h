@@ -5,4 +5,7 @@
 
 #include "platform/base/object.h"
 
+#include "geometry/mathematics.h"
+#include "geometry/records.h"
+
 #endif
