@@ -144,7 +144,218 @@ class KX7_API CMathematics : public CObject
 
     // ---- lines, planes and rectangles in space ----------------------------------------------------------
 
+    /// The plane through three points, its origin the first. 0 if they lie on one line; a nearly parallel
+    /// pair of sides gives a zero normal and 1.
+    int DefinePlane(TUVect3D * const points, TSPlane & plane);
+    int DefinePlane(TUVect3D const & a, TUVect3D const & b, TUVect3D const & c, TSPlane & plane);
+
+    /// 1 if `p` lies on the infinite line through `a` and `b`. The squared sine times the distance from `a`
+    /// is compared, so a far point may stand further off than the tolerance. 0 if `a` and `b` are one place.
+    int PointLiesOnLine(TUVect3D a, TUVect3D b, TUVect3D p);
+
+    /// 1 if `p` is one place with the plane's origin or its direction from there is perpendicular to the unit
+    /// `normal` within the tolerance: a test of the angle, not of the distance.
+    int PointLiesInPlane(TSPlane const & plane, TUVect3D const & p);
+    int PointLiesInPlane(TUVect3D const & origin, TUVect3D const & normal, TUVect3D const & p);
+
+    /// Distance of `p` from the infinite line a-b, its foot there and the foot's parameter (0 at `a`, 1 at
+    /// `b`). 0 if the line is shorter than 1e-10.
+    int GetDistancePointToLine(TUVect3D const & p, TUVect3D const & a, TUVect3D const & b, double & distance,
+                               TUVect3D & foot, double & t);
+
+    /// Where `p` stands on the line a-b: -1 behind `a`, 1 on the segment, 2 beyond `b`, 0 off the line.
+    int IsPointOnExtendedLine(TUVect3D const & a, TUVect3D const & b, TUVect3D const & p);
+
+    /// `foot` = the foot of the perpendicular from `p` to the line a-b. 1 if it lies within the segment.
+    int PointCastOnLine(TUVect3D const & a, TUVect3D const & b, TUVect3D const & p, TUVect3D & foot);
+
+    /// 1 if `p` lies on the segment a-b, with its distance from `a`; `distance` is 0 or the tried one else.
+    int IsPoint3DInLine(TUVect3D const & a, TUVect3D const & b, TUVect3D const & p, double & distance);
+
+    /// The point at `value` from `a` along a-b: a distance (`mode` 0), a fraction (1) or a percentage (2). 0
+    /// for a zero segment or another mode, and, with the point written, for a point outside the segment.
+    int GetPoint3DOnLine(TUVect3D const & a, TUVect3D const & b, TUVect3D & point, double const & value,
+                         int const & mode);
+
+    /// The case analysis of two lines. `mode` 1 takes them as segments, others as infinite. Not parallel: the
+    /// nearest points p1, p2 of the infinite lines with their parameters t, u, `hit` 1, `kind` 0; 1 if they
+    /// meet. Parallel and apart: 0, `kind` 11. One line: `kind` 10, t and u the parameters of b1 and b2 on
+    /// the first; with a common stretch `hit` is 1 and p1, p2 its ends. 0 with all cleared for a zero
+    /// segment.
+    int LineIntersectionParameters(TUVect3D const & a1, TUVect3D const & a2, TUVect3D const & b1,
+                                   TUVect3D const & b2, int mode, TUVect3D & p1, TUVect3D & p2, int & kind,
+                                   double & t, double & u, int & hit);
+
+    /// The same with the point of meeting in `p1` (`p2` untouched) and `kind` telling where it lies: 1
+    /// outside both, 2 inside both, 3 outside the first, inside the second, 4 the reverse, 5 end of the
+    /// first, inside the second, 6 the reverse, 7 end of the second, outside the first, 8 the reverse, 9 end
+    /// of both, 10 one line (9 if in one point; p1, p2 the ends of the common stretch), 11 parallel, 0 none.
+    int LineIntersection(TUVect3D const & a1, TUVect3D const & a2, TUVect3D const & b1, TUVect3D const & b2,
+                         int mode, TUVect3D & p1, TUVect3D & p2, int & kind);
+
+    /// The infinite line a-b against a plane: 1 with the crossing in `point`, 2 if it lies in the plane, else
+    /// 0.
+    int LineTSPlaneIntersection(TUVect3D const & a, TUVect3D const & b, TSPlane const & plane,
+                                TUVect3D & point);
+
+    /// An edge against a plane; `pieces` (freed by the caller with delete[]) gets `count` records. 1 for
+    /// point edges, also with `count` 0 for an arc; 2 for a copy of an edge in the plane; 1 for a point edge
+    /// in it. A line is taken as infinite. 0 with null and 0 for none.
+    int EdgeTSPlaneIntersection(TSPlaneEdge3D * const edge, TSPlane const & plane, TSPlaneEdge3D *& pieces,
+                                int & count);
+
+    /// The infinite line through `point` along `direction` against the rectangle corner + a side1 + b side2
+    /// with a, b in 0 to 1; `result` is the crossing, for a line within the rectangle's plane a common point.
+    int LineRectangleIntersection(TUVect3D const & point, TUVect3D const & direction, TUVect3D const & corner,
+                                  TUVect3D const & side1, TUVect3D const & side2, TUVect3D & result);
+
+    /// The infinite line against the bilinear patch with the corners q0, q1, q2, q3 in order: the number of
+    /// crossings, in p1 and p2; 16 if the line lies in the patch. The parameters of each crossing run from
+    /// side q0-q3 to side q1-q2 (`r`) and from side q0-q1 to side q3-q2 (`s`).
+    int GetLineQuadIntersectionParameters(TUVect3D const & q0, TUVect3D const & q1, TUVect3D const & q2,
+                                          TUVect3D const & q3, TUVect3D const & point,
+                                          TUVect3D const & direction, TUVect3D & p1, TUVect3D & p2,
+                                          double & r1, double & s1, double & r2, double & s2);
+    int GetLineQuadIntersection(TUVect3D const & q0, TUVect3D const & q1, TUVect3D const & q2,
+                                TUVect3D const & q3, TUVect3D const & point, TUVect3D const & direction,
+                                TUVect3D & p1, TUVect3D & p2);
+
+    /// A segment, projected with the view matrix, against a rectangle of the view plane (corners in any
+    /// order): 0 outside, 1 inside, 2 crossing.
+    int LineRectIntersection(TUVect3D const & a, TUVect3D const & b, double const & left, double const & top,
+                             double const & right, double const & bottom, double const (*matrix)[3]);
+
+    /// 1 if both ends of the segment lie in the rectangle, borders included.
+    int LineInRectangle(TUVect3D const & a, TUVect3D const & b, double const & left, double const & top,
+                        double const & right, double const & bottom, double const (*matrix)[3]);
+    int LineInRectangle(double const & x1, double const & y1, double const & x2, double const & y2,
+                        double const & left, double const & top, double const & right, double const & bottom);
+
+    /// 1 if the segment and the rectangle have a point in common, judged by the segment's height at the
+    /// rectangle's two vertical borders.
+    int LineIntersectsRectangle(TUVect3D const & a, TUVect3D const & b, double const & left,
+                                double const & top, double const & right, double const & bottom,
+                                double const (*matrix)[3]);
+    int LineIntersectsRectangle(double const & x1, double const & y1, double const & x2, double const & y2,
+                                double const & left, double const & top, double const & right,
+                                double const & bottom);
+
+    /// 1 if the projected point lies in the rectangle, with half the tolerance as margin.
+    int IsPointInRectangle(TUVect3D const & p, double const & left, double const & top, double const & right,
+                           double const & bottom, double const (*matrix)[3]);
+
+    /// 1 if the point lies in the rectangle of two opposite corners, with half the tolerance as margin.
+    int PointInRectangle(TUVect2D const & p, TUVect2D const & c1, TUVect2D const & c2);
+
+    /// 'B' within the tolerance of the rectangle's border, also just outside; 'I' inside, 'O' outside.
+    char PointInRectangle(double const & x, double const & y, double const & x1, double const & y1,
+                          double const & x2, double const & y2);
+
+    /// 1 if `p` lies on the segment a-b within the tolerance.
+    int PointLiesOnSegment(TUVect2D const & a, TUVect2D const & b, TUVect2D const & p);
+
+    /// 1 if `p` is one place with one of the first `count` - 1 points (the last repeats the first).
+    int PointLiesAtVertex(TUVect2D const & p, TUVect2D const * points, int const & count);
+
+    /// The crossing `y` of the vertical through `x` with the segment a-b; 0 if it passes the segment by or
+    /// the segment is vertical.
+    int IntersectsY(TUVect2D const & a, TUVect2D const & b, double x, double & y);
+
+    /// 1 if `p` lies in the straight polygon of `count` points; on its boundary the answer is
+    /// `boundaryCounts` as 0 or 1. An open polygon is closed in the caller's array, which needs room for one
+    /// point more.
+    int PointLiesInPolygon(TUVect2D const & p, TUVect2D * polygon, int count, int boundaryCounts);
+
     // ---- arc intersections in space ---------------------------------------------------------------------
+
+    // Parameters: on a line 0 at its start and 1 at its end; on an arc (1 - cosine of the angle at the
+    // chord's midpoint between start and point) / 2, 0 at its start, 1 at its end, growing along the arc, -1
+    // across the chord. Codes: 0 nothing, 1 one point (p1), 2 two points, 17 a tangent point (p1), 3 two arcs
+    // of one circle with a stretch in common, 33 an arc within the plane, 16 an arc wholly on the plane's
+    // positive side. `flags`: 2 a first point exists, 8 a second, 1 and 4 their parameters are filled. Don't
+    // read outputs after a 0.
+
+    /// An arc against the line l1-l2; `mode` 1 limits the line to the segment. The arc is limited always.
+    int ArcLineIntersectionParameters(TUVect3D const & start, TUVect3D const & end,
+                                      TUVect3D const & arcVector, double const & bulge, TUVect3D const & l1,
+                                      TUVect3D const & l2, TUVect3D & p1, TUVect3D & p2, int mode,
+                                      double & arcT1, double & lineT1, double & arcT2, double & lineT2,
+                                      int & flags);
+
+    /// The same without parameters; a single hit of two elements that share an end point counts as none.
+    int ArcLineIntersection(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                            double const & bulge, TUVect3D const & l1, TUVect3D const & l2, TUVect3D & p1,
+                            TUVect3D & p2, int mode);
+
+    /// The same; shared end points count.
+    int ArcLineIntersectionPlus(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                                double const & bulge, TUVect3D const & l1, TUVect3D const & l2, TUVect3D & p1,
+                                TUVect3D & p2, int mode);
+
+    /// An arc against a plane; `count` is the number of points in p1, p2.
+    int ArcPlaneIntersectionParameters(TUVect3D const & start, TUVect3D const & end,
+                                       TUVect3D const & arcVector, double const & bulge,
+                                       TUVect3D const & origin, TUVect3D const & normal, TUVect3D & p1,
+                                       TUVect3D & p2, int & count);
+    int ArcPlaneIntersection(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                             double const & bulge, TUVect3D const & origin, TUVect3D const & normal);
+
+    /// Two arcs. Mind the order of the parameters: a1 on A for p1, b2 on B for p2, b1 on B for p1, a2 on A
+    /// for p2. Code 3 fills them otherwise: b1, b2 are B's ends placed on A, a1, a2 A's ends placed on B.
+    int ArcIntersectionParameters(TUVect3D const & startA, TUVect3D const & endA, TUVect3D const & arcVectorA,
+                                  double const & bulgeA, TUVect3D const & startB, TUVect3D const & endB,
+                                  TUVect3D const & arcVectorB, double const & bulgeB, TUVect3D & p1,
+                                  TUVect3D & p2, double & a1, double & b2, double & b1, double & a2,
+                                  int & flags);
+
+    /// The same without parameters; a single hit of arcs that share an end point counts as none, and code 3
+    /// stays only for a true common stretch.
+    int ArcIntersection(TUVect3D const & startA, TUVect3D const & endA, TUVect3D const & arcVectorA,
+                        double const & bulgeA, TUVect3D const & startB, TUVect3D const & endB,
+                        TUVect3D const & arcVectorB, double const & bulgeB, TUVect3D & p1, TUVect3D & p2);
+
+    /// Neither element limited. Class of a point on the arc: 2 on it, 1 on the rest of its circle; on the
+    /// line: 2 on the segment, 1 beyond l2, -1 before l1. Returns the number of classified points.
+    int ExtendedLineArcIntersection(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                                    double const & bulge, TUVect3D const & l1, TUVect3D const & l2,
+                                    TUVect3D & p1, TUVect3D & p2, int & arcClass1, int & lineClass1,
+                                    int & arcClass2, int & lineClass2);
+
+    /// The same for two arcs; 3 for arcs of one circle with a stretch in common.
+    int ExtendedArcIntersection(TUVect3D const & startA, TUVect3D const & endA, TUVect3D const & arcVectorA,
+                                double const & bulgeA, TUVect3D const & startB, TUVect3D const & endB,
+                                TUVect3D const & arcVectorB, double const & bulgeB, TUVect3D & p1,
+                                TUVect3D & p2, int & classA1, int & classB1, int & classA2, int & classB2);
+
+    /// 2 if `p` lies on the arc, 1 on the rest of its circle, else 0; a flat arc answers as
+    /// IsPointOnExtendedLine.
+    int IsPointOnExtendedArc(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                             double const & bulge, TUVect3D const & p);
+
+    /// 1 if `p` lies on the arc, with its distance along the arc from the start.
+    int IsPoint3DInArc(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                       double const & bulge, TUVect3D const & p, double & distance);
+    int IsPoint3DInArc(TSPlaneEdge3D & arc, TUVect3D const & p, double & distance);
+
+    /// An arc seen in the view plane against a rectangle there: 1 wholly inside, 2 crossing a side, else 0.
+    int ArcRectIntersection(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                            double const & bulge, double left, double top, double right, double bottom,
+                            double const (*matrix)[3]);
+
+    /// 1 if the arc, seen in the view plane, crosses the segment (x1, y1)-(x2, y2) there.
+    int ArcLineIntersection(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                            double const & bulge, double const & x1, double const & y1, double const & x2,
+                            double const & y2, double const (*matrix)[3]);
+
+    /// The feet on the arc of the perpendicular from `p`: their number, the nearer one first.
+    int PointCastOnArc(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                       double const & bulge, TUVect3D const & p, TUVect3D & foot, TUVect3D & other,
+                       int & class1, int & class2);
+
+    /// The points of the arc whose tangents pass through `p`: their number.
+    int Arc3DTangentPoints(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                           double const & bulge, TUVect3D const & p, TUVect3D & t1, TUVect3D & t2,
+                           int & count, int & class1, int & class2);
 
     // ---- edge algebra -----------------------------------------------------------------------------------
 
