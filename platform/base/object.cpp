@@ -2,14 +2,17 @@
 
 #include <cstring>
 
-namespace
-{
+namespace {
 CRuntimeClass * g_firstSerialClass = nullptr;
 }
 
-CRuntimeClass const CObject::classCObject = {"CObject", static_cast<int>(sizeof(CObject)), 0xFFFF, nullptr, nullptr};
+CRuntimeClass const CObject::classCObject = {"CObject", static_cast<int>(sizeof(CObject)), 0xFFFF, nullptr,
+                                             nullptr};
 
-CObject * CRuntimeClass::CreateObject() const { return m_pfnCreateObject ? m_pfnCreateObject() : nullptr; }
+CObject * CRuntimeClass::CreateObject() const
+{
+    return m_pfnCreateObject ? m_pfnCreateObject() : nullptr;
+}
 
 bool CRuntimeClass::IsDerivedFrom(CRuntimeClass const * base) const
 {
@@ -27,10 +30,19 @@ CRuntimeClass const * CRuntimeClass::FromName(char const * name)
     return nullptr;
 }
 
-CRuntimeClass const * CObject::GetRuntimeClass() const { return &classCObject; }
+CRuntimeClass const * CObject::GetRuntimeClass() const
+{
+    return &classCObject;
+}
 
 void CObject::Serialize(CArchive &) {}
 
-bool CObject::IsKindOf(CRuntimeClass const * record) const { return GetRuntimeClass()->IsDerivedFrom(record); }
+bool CObject::IsKindOf(CRuntimeClass const * record) const
+{
+    return GetRuntimeClass()->IsDerivedFrom(record);
+}
 
-bool CObject::IsSerializable() const { return GetRuntimeClass()->m_wSchema != 0xFFFF; }
+bool CObject::IsSerializable() const
+{
+    return GetRuntimeClass()->m_wSchema != 0xFFFF;
+}

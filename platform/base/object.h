@@ -13,12 +13,13 @@ class CObject;
 /// uses a DECLARE_DYNAMIC, DECLARE_DYNCREATE or DECLARE_SERIAL macro, as the static member `class<Name>`.
 struct KX7_API CRuntimeClass
 {
-    char const * m_lpszClassName;               ///< Name as written in the source; goes into archives.
-    int m_nObjectSize;                          ///< Size of an object in bytes.
-    UINT m_wSchema;                             ///< Schema number in archives; 0xFFFF if it isn't serial.
-    CObject * (*m_pfnCreateObject)();           ///< Makes an object; null for a class that can't be made.
-    CRuntimeClass const * m_pBaseClass;         ///< Record of the base class; null for CObject.
-    CRuntimeClass const * m_pNextClass = nullptr;  ///< Next record in the process-wide list of serial classes.
+    char const * m_lpszClassName;        ///< Name as written in the source; goes into archives.
+    int m_nObjectSize;                   ///< Size of an object in bytes.
+    UINT m_wSchema;                      ///< Schema number in archives; 0xFFFF if it isn't serial.
+    CObject * (*m_pfnCreateObject)();    ///< Makes an object; null for a class that can't be made.
+    CRuntimeClass const * m_pBaseClass;  ///< Record of the base class; null for CObject.
+    CRuntimeClass const * m_pNextClass =
+        nullptr;  ///< Next record in the process-wide list of serial classes.
 
     /// Makes a new object of the class, owned by the caller; null if the class can't be made by record.
     CObject * CreateObject() const;
@@ -30,8 +31,7 @@ struct KX7_API CRuntimeClass
     static CRuntimeClass const * FromName(char const * name);
 };
 
-namespace detail
-{
+namespace detail {
 /// Puts the record of a serial class into the process-wide list while its module is loaded.
 class KX7_API ClassRegistration
 {
@@ -85,23 +85,32 @@ class KX7_API CObject
     DECLARE_DYNAMIC(className)       \
     static CObject * CreateObject();
 
-#define DECLARE_SERIAL(className)      \
-  public:                              \
-    static CRuntimeClass class##className; \
+#define DECLARE_SERIAL(className)                           \
+  public:                                                   \
+    static CRuntimeClass class##className;                  \
     CRuntimeClass const * GetRuntimeClass() const override; \
-    static CObject * CreateObject();   \
+    static CObject * CreateObject();                        \
     friend CArchive & operator>>(CArchive & archive, className *& object);
 
-#define IMPLEMENT_DYNAMIC(className, baseName)                                                         \
-    CRuntimeClass const className::class##className = {#className,  static_cast<int>(sizeof(className)), \
-                                                       0xFFFF, nullptr, RUNTIME_CLASS(baseName)};        \
-    CRuntimeClass const * className::GetRuntimeClass() const { return RUNTIME_CLASS(className); }
+#define IMPLEMENT_DYNAMIC(className, baseName)                                                          \
+    CRuntimeClass const className::class##className = {#className, static_cast<int>(sizeof(className)), \
+                                                       0xFFFF, nullptr, RUNTIME_CLASS(baseName)};       \
+    CRuntimeClass const * className::GetRuntimeClass() const                                            \
+    {                                                                                                   \
+        return RUNTIME_CLASS(className);                                                                \
+    }
 
-#define IMPLEMENT_DYNCREATE(className, baseName)                                                         \
-    CObject * className::CreateObject() { return new className; }                                       \
-    CRuntimeClass const className::class##className = {#className,  static_cast<int>(sizeof(className)),   \
-                                                       0xFFFF, &className::CreateObject,                   \
-                                                       RUNTIME_CLASS(baseName)};                           \
-    CRuntimeClass const * className::GetRuntimeClass() const { return RUNTIME_CLASS(className); }
+#define IMPLEMENT_DYNCREATE(className, baseName)                                                        \
+    CObject * className::CreateObject()                                                                 \
+    {                                                                                                   \
+        return new className;                                                                           \
+    }                                                                                                   \
+    CRuntimeClass const className::class##className = {#className, static_cast<int>(sizeof(className)), \
+                                                       0xFFFF, &className::CreateObject,                \
+                                                       RUNTIME_CLASS(baseName)};                        \
+    CRuntimeClass const * className::GetRuntimeClass() const                                            \
+    {                                                                                                   \
+        return RUNTIME_CLASS(className);                                                                \
+    }
 
 #endif
