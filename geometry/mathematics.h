@@ -5,6 +5,8 @@
 #include "platform/base/object.h"
 #include "platform/base/types.h"
 
+class CPoint;
+class CRect;
 class CString;
 
 /// The geometry kernel. A host makes one object and hands its pointer round; it isn't safe to share between
@@ -139,6 +141,95 @@ class KX7_API CMathematics : public CObject
     int StripString(CString line, CString allowed, double * const values, int & form);
 
     // ---- views and projections --------------------------------------------------------------------------
+
+    // A view is the matrix m and its inverse. Row 0 of m gives u (to the right), row 1 v (upward), row 2 the
+    // depth. A point stands on the screen at originX + u * scale, originY - v * scale, with `scale` in pixels
+    // per model unit. The three ways of rounding to pixels below differ on purpose.
+
+    /// Both matrices of the view with the three `angles`; `handed` 0 turns the sign of one axis. The inverse
+    /// comes from the equation solver, whose failure isn't looked at.
+    void ComputeViewMatrix(int handed, double (*const m)[3], double (*const inverse)[3], TUVect3D angles);
+
+    /// A view from the direction (x, y, z), given from the viewer's side, if `byDirection` is 1, else from
+    /// the angles x, y, z. Writes both matrices, the angles and the unit direction. A direction shorter than
+    /// 1e-10 changes nothing.
+    void DefineView(double x, double y, double z, int byDirection, int handed, TUVect3D * direction,
+                    TUVect3D * angles, double (*const m)[3], double (*const inverse)[3]);
+
+    /// `result` = the slide vector for PRtoPR that carries a point of the projection plane of `direction`
+    /// along `c`; `a` has no effect. 0 if `c` lies in the projection plane or `direction` is none.
+    int DefineProjection(int handed, TUVect3D const & a, TUVect3D const & direction, TUVect3D const & c,
+                         TUVect3D * result);
+
+    /// `result` = the point in space of the projection plane's coordinates u, v.
+    void PRtoUS(double const & u, double const & v, TUVect3D * result, double const (*inverse)[3]);
+
+    /// The same, then moved along `slide` by its distance from the plane through `origin` with the normal
+    /// `n`.
+    void PRtoPR(double const & u, double const & v, TUVect3D * result, double const (*inverse)[3],
+                TUVect3D const & slide, TUVect3D const & origin, TUVect3D const & n);
+
+    /// Projected coordinates, u to the right and v upward, in model units; without a matrix in the stored
+    /// view.
+    double u3D(double const & x, double const & y, double const & z, double const (*m)[3]);
+    double v3D(double const & x, double const & y, double const & z, double const (*m)[3]);
+    double u3D(TUVect3D const * point);
+    double v3D(TUVect3D const * point);
+
+    /// (u, v) of the point, in model units.
+    void Get2DCoord(double const (*m)[3], TUVect3D const & point, TUVect2D & result);
+
+    /// The point's pixel, u * scale and v * scale rounded as RoundToInt does.
+    void GetInt2DCoord(int const & originX, int const & originY, double const (*m)[3], double const & scale,
+                       TUVect3D const & point, int & x, int & y);
+
+    /// The point's pixel in the stored view, u * scale and v * scale truncated, as doubles.
+    void Get2DCoord(TUVect3D const * point, TUVect2D * result);
+
+    /// The floors of u * scale and v * scale, without an origin.
+    void Point3DToView2D(double const (*m)[3], double const & scale, TUVect3D const & point,
+                         TUVect2D & result);
+
+    /// u and v of the pixel (x, y); 0, 0 for a scale below 1e-22.
+    void GetWorld2DCoord(int originX, int originY, double scale, int x, int y, double & u, double & v);
+
+    /// u and v of the lower left (u1, v1) and upper right (u2, v2) corner of a window of the size of `rect`
+    /// whose upper left corner is the pixel `origin`; the model origin stands at (originX, originY).
+    void GetWorldWindowCorners(CPoint origin, CRect rect, int originX, int originY, double scale, double & u1,
+                               double & v1, double & u2, double & v2);
+
+    /// The midpoint, in space, projected to (u, v), and as a pixel.
+    void GetCenterPoint(TUVect3D const & a, TUVect3D const & b, TUVect3D & result);
+    void Get2DCenterPoint(double const (*m)[3], TUVect3D const & a, TUVect3D const & b, TUVect2D & result);
+    void GetInt2DCenterPoint(int const & originX, int const & originY, double const (*m)[3],
+                             double const & scale, TUVect3D & a, TUVect3D & b, int & x, int & y);
+
+    /// Stores the view state for the operations that take no matrix.
+    void SetViewParams(int originX, int originY, double (*const m)[3], double scale);
+
+    /// Turns coordinates in a plane's system (x along `axisX`, y along `axisY`, z along the normal) into
+    /// global ones. `mode` 0: rectangular; 1: cylindrical, x the radius, y along the normal, z the angle from
+    /// `axisX`; 2: spherical, x the radius, y the angle in the plane, z the angle above it. The plane's
+    /// normal and both axes are normalised in place.
+    void TransUSS_GSS(TSPlane * plane, TUVect3D * axisX, TUVect3D * axisY, int mode, TUVect3D * point);
+
+    /// The way from global coordinates, the exact reverse of TransUSS_GSS only for `mode` 0 and an origin of
+    /// zero: the plane's origin is taken off after the projection on the axes, x stays as in `mode` 0 always,
+    /// and in modes 1 and 2 y becomes 1 or 0 for a point off or on the plane's normal.
+    void TransGSS_USS(TSPlane * plane, TUVect3D * axisX, TUVect3D * axisY, int mode, TUVect3D * point);
+
+    /// `point` in the system of a member from `origin` along `direction`, turned by `angle` about the member:
+    /// x across it and level, y across it, z along it. A direction with a level part below 1e-5 counts as
+    /// vertical. Always 1.
+    int TransGssToLss(TUVect3D * origin, TUVect3D * direction, double angle, TUVect3D * point,
+                      TUVect3D * result);
+
+    /// The way back. Always 1.
+    int TransLssToGss(TUVect3D * origin, TUVect3D * direction, double angle, TUVect3D * point,
+                      TUVect3D * result);
+
+    /// 1 if the pixel (x, y) lies in the rectangle, all four borders included.
+    int ScissorTest(CRect rect, int x, int y);
 
     // ---- arcs and bulges --------------------------------------------------------------------------------
 
@@ -366,6 +457,53 @@ class KX7_API CMathematics : public CObject
     // ---- polygon intersection ---------------------------------------------------------------------------
 
     // ---- cross-sections ---------------------------------------------------------------------------------
+
+    // Outlines here have straight sides only and run counter-clockwise for a positive area.
+
+    /// The characteristics of a section, accumulated polygon by polygon: the caller zeroes the accumulators
+    /// of both groups and makes one call per outer outline and per hole (`hole` 1, which subtracts whichever
+    /// way it runs). `count` is the number of sides and `points` has count + 1 entries, or `count` is 32767
+    /// for a circle with the radius in points[0].x and the centre in points[1]. `direction` becomes 0 for a
+    /// clockwise polygon, else 1. Always 1.
+    ///
+    /// The outputs are two groups in the same order, the first weighted by `weight`, the second not: moments
+    /// of inertia about the axes of coordinates (Ix the integral of y squared), about the centroid's axes,
+    /// and about the principal axes; area; product moments; static moments (Sx the integral of y); centroid;
+    /// angle of the principal axes in radians. Ix, Iy, A, Ixy, Sx and Sy are the accumulators. With no area
+    /// accumulated Xc is 0, and Yc is 0 in the second group but left alone in the first.
+    int GetThoseCharacteristics(TUVect2D * points, int hole, int & direction, unsigned int count,
+                                double weight, double & weightedIx, double & weightedIy, double & weightedIxc,
+                                double & weightedIyc, double & weightedI1, double & weightedI2,
+                                double & weightedA, double & weightedIxy, double & weightedIxyc,
+                                double & weightedSx, double & weightedSy, double & weightedXc,
+                                double & weightedYc, double & weightedAlpha, double & Ix, double & Iy,
+                                double & Ixc, double & Iyc, double & I1, double & I2, double & A,
+                                double & Ixy, double & Ixyc, double & Sx, double & Sy, double & Xc,
+                                double & Yc, double & alpha);
+
+    /// The plastic section modulus for bending about y = 0 of a closed outline in centroidal coordinates: the
+    /// static moments of the two halves of the area, with levels about a hundredth of the height apart. 0
+    /// with `modulus` unwritten for a clockwise outline, one without area, or heights that aren't numbers.
+    int ComputePlastMoment(CArray<TUVect2D, TUVect2D &> & outline, double & modulus);
+
+    /// The ratio of shear area to area for a shear force along y of a closed outline in centroidal
+    /// coordinates: Ix squared over A times the integral of S squared over the width (5/6 for a rectangle). A
+    /// ratio above 1, below 0.0001 or none counts as 1. Unwritten for heights that aren't numbers.
+    void ComputeShearCoef(CArray<TUVect2D, TUVect2D &> & outline, double & coefficient);
+
+    /// The total length within the outline of the horizontal line at the height `y`. Sides whose ends differ
+    /// in height by no more than 1e-10 are passed over.
+    void GetWidthInPosition(CArray<TUVect2D, TUVect2D &> & outline, double y, double & width);
+
+    /// The smallest positive width of the outline turned by `angle`, within the heights from `bottom` above
+    /// its lowest to `top` below its highest point; 0 if there is none.
+    void FindMinimalB0(CArray<TUVect2D, TUVect2D &> & outline, double top, double bottom, double angle,
+                       double & B0);
+
+    /// The part of the outline on the side of the line through `axisPoint`, at right angles to `direction`,
+    /// to which `direction` points, with a margin of 1e-10, closed by its first point. 0 if it is empty.
+    int GetPartOfPolygonAboveNeutralAxis(CArray<TUVect2D, TUVect2D &> & outline, TUVect2D axisPoint,
+                                         TUVect2D direction, CArray<TUVect2D, TUVect2D &> & part);
 
     // ---- state ------------------------------------------------------------------------------------------
 
