@@ -452,9 +452,120 @@ class KX7_API CMathematics : public CObject
 
     // ---- plane elements ---------------------------------------------------------------------------------
 
+    // One or two plane elements (`TSelem`, or two end points with a bulge). A positive bulge puts the apex on
+    // the left of the direction from start to end. Positions are distances along an element from its start.
+
+    /// The fraction of `p` along a to b, not limited to 0 to 1: exactly 0 or 1 nearer to a or b than the
+    /// tolerance. A segment without length isn't guarded.
+    double GetPointOnLineParam(TUVect2D const & p, TUVect2D const & a, TUVect2D const & b);
+
+    /// 1 if `p` lies on the arc from a to b.
+    int IsPointOnArc(TUVect2D const & p, TUVect2D const & a, TUVect2D const & b, double bulge);
+
+    /// The same, with the fraction of the arc's length (-1 for a point off the arc; exactly 0 or 1 at the
+    /// ends) and the arc's length. A point on the circle counts only on the apex side of the chord.
+    int IsPointOnArcParams(TUVect2D const & p, TUVect2D const & a, TUVect2D const & b, double bulge,
+                           double & fraction, double & arcLength);
+
+    /// Where two elements meet. `parts` becomes a block of always two records, of which `count` are filled,
+    /// for the caller to free with delete[]; `kind` is 0 for the same element, 1 for stretches in common, 2
+    /// for points (records with `type` 0). Returns 0, with `parts` as it was, if they don't meet.
+    int ElemIntersection(TSelem const & e1, TSelem const & e2, TSelem *& parts, int & count, int & kind);
+
+    /// 1 if the elements are of one type and have the same start and end, and arcs the same bulge within
+    /// 1e-10.
+    int CompareElem(TSelem const & e1, TSelem const & e2);
+
+    /// 1 if e2 is e1 reversed: ends exchanged and, for arcs, the opposite bulge within 1e-10.
+    int CompareAntiElem(TSelem const & e1, TSelem const & e2);
+
+    /// Writes the part of `e` between two positions: its type, start, end and bulge (not the mark). 0 if
+    /// there is none.
+    int GetSectionOfElem(TSelem const & e, double from, double to, TSelem * part);
+
+    /// 1 if `p` lies on `e`, with its position (0 if it doesn't, and for a point element).
+    int IsPointInEelem(TSelem const & e, TUVect2D p, double & position);
+
+    /// The point of `e` at a position: for `mode` 0 a distance from the start, 1 a fraction of the length, 2
+    /// a percentage. An element whose ends are one place counts as a point. 0 if the position is off `e`.
+    int GetPointOnEelem(TSelem const & e, double position, int mode, TUVect2D & p);
+
+    /// Segments a-b and c-d. 1 if they meet; p1, p2, t1 and t2 are written for lines that cross anywhere, so
+    /// the crossing of the infinite lines can be read after a result of 0.
+    ///
+    /// `kind` 1: not parallel; t1 and t2 are the fractions of the crossing on each segment, `shape` 1. 10:
+    /// one line; t1 and t2 are the positions of c and d as fractions of a to b, p1 and p2 the ends of the
+    /// common stretch, `shape` 3. 2: one line, apart. 0: parallel; p2 is the point opposite p1 = b as the
+    /// unscaled projection gives it. 255: both segments without length.
+    int LineIntersectionParameters(TUVect2D const & a, TUVect2D const & b, TUVect2D const & c,
+                                   TUVect2D const & d, TUVect2D & p1, TUVect2D & p2, int & kind, double & t1,
+                                   double & t2, int & shape);
+
+    /// Arc against segment: ArcLineIntersectionParameters limited to the segment, without parameters.
+    int ArcLineIntersection(TUVect2D const & a, TUVect2D const & b, double bulge, TUVect2D l1, TUVect2D l2,
+                            TUVect2D & p1, TUVect2D & p2, int & flags);
+
+    /// Arc against a line, or for `limit` 1 against the segment l1-l2. 0 none, 1 one crossing in p1, 2 two
+    /// crossings, 17 a tangent contact in p1. arc1, arc2 order the points along the arc only (0 at a, 1 at b,
+    /// -1 off it); line1, line2 are fractions of l1 to l2. `flags`: 2 and 8 points found, 1 and 4 their
+    /// parameters.
+    int ArcLineIntersectionParameters(TUVect2D const & a, TUVect2D const & b, double const & bulge,
+                                      TUVect2D const & l1, TUVect2D const & l2, TUVect2D & p1, TUVect2D & p2,
+                                      int limit, double & arc1, double & line1, double & arc2, double & line2,
+                                      int & flags);
+
     // ---- areas ------------------------------------------------------------------------------------------
 
+    // An area is a closed outline with arcs (`TSPoint2DPlane`). Classes of a point: 0 outside, 1 inside, 2 on
+    // an edge, 3 on a vertex.
+
+    /// Class of `p` against a straight polygon whose last vertex joins its first. Returns 0 outside, 1 inside
+    /// or on the boundary.
+    int IsPointInPolygon(TUVect2D p, TUVect2D * vertices, unsigned int count, int & pointClass);
+
+    /// The same against an area in closed form. `pointClass` 0 on entry asks for the boundary tests alone (0
+    /// then also for a point inside), any other value for the full test. The number has no effect.
+    int IsPointInArea(TUVect2D p, CArray<TSPoint2DPlane, TSPoint2DPlane &> const * area, unsigned int unused,
+                      int & pointClass);
+
+    /// Signed surface of an area, positive for a counter-clockwise outline; algebraic for one that crosses
+    /// itself.
+    double GetAreaSurface(CArray<TSPoint2DPlane, TSPoint2DPlane &> const * area);
+
+    /// Signed surface of a straight polygon whose last vertex joins its first.
+    double GetArea(CArray<TUVect2D, TUVect2D &> const & polygon);
+
+    /// Cuts an element at an area's boundary: `intervals` becomes its stretches inside (kind 0), along an
+    /// edge (1) and its touching points and the stretches between two of them (2), in order along the
+    /// element; `side` is the ordinal of the edge, -1 in the interior. Memory exceptions pass through. The
+    /// number has no effect.
+    ///
+    /// Returns a sum of 1 (a stretch inside), 2 (one on the boundary) and 4 (one outside); 0 for an element
+    /// outside without contact, 18 for one that lies wholly on an edge, 26 for one that is an edge (these two
+    /// with the single interval of kind 3).
+    int EdgeAreaIntersection(TSelem const & e, CArray<TSPoint2DPlane, TSPoint2DPlane &> const & area,
+                             unsigned int unused, CArray<TSInterval, TSInterval &> & intervals);
+
+    /// 1 if the two areas are certainly apart, by their extents in eight directions; else 0.
+    int ArePolygonsSeparated(CArray<TSPoint2DPlane, TSPoint2DPlane &> const * a,
+                             CArray<TSPoint2DPlane, TSPoint2DPlane &> const * b);
+
     // ---- polygon intersection ---------------------------------------------------------------------------
+
+    /// The common part of two areas in closed form. `result` becomes an array for the caller to free with
+    /// delete, like the `points` of each of its members; a member's `kind` is 0 for touching points (one
+    /// member for all), 1 for a shared edge along which the areas run in opposite directions (start, marker
+    /// for an arc, end), 2 for a closed counter-clockwise outline. `result` isn't cleared on entry. Memory
+    /// exceptions pass through, everything released.
+    ///
+    /// 0  no common part, `result` untouched; or the work failed, then `result` may hold an array.
+    /// 1  a lies inside b; 3 a lies inside b and touches its boundary; 11 the areas coincide: a copy of a.
+    /// 2  b lies inside a; 4 b lies inside a and touches its boundary: a copy of b.
+    /// 5  the areas only touch: members of kinds 0 and 1.
+    /// 6  they overlap. The last outline may be open where the pieces can't be chained.
+    int PolygonIntersection(CArray<TSPoint2DPlane, TSPoint2DPlane &> const * a,
+                            CArray<TSPoint2DPlane, TSPoint2DPlane &> const * b,
+                            CArray<TSGeneralSet, TSGeneralSet &> *& result);
 
     // ---- cross-sections ---------------------------------------------------------------------------------
 
