@@ -233,6 +233,135 @@ class KX7_API CMathematics : public CObject
 
     // ---- arcs and bulges --------------------------------------------------------------------------------
 
+    // The bulge of an arc is its sagitta over its half chord, tan(included angle / 4). Only the part of
+    // `arcVector` perpendicular to the chord counts: a positive bulge puts the apex on its side, a negative
+    // one on the other. In the plane a positive bulge puts the apex left of the chord from start to end. An
+    // arc travels from start to end as a positive turn about `arcVector` x chord (negative bulge: minus it).
+    // Outputs stay untouched on failure unless an operation says otherwise.
+
+    /// The centre. 0 for |bulge| below 1e-5, which counts as a line, and for an `arcVector` along the chord.
+    /// A negative bulge mirrors the centre across the chord.
+    int Get3DArcCenter(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                       double const & bulge, TUVect3D & centre);
+
+    /// The centre and signed radius with other limits: 0 for |bulge| below 1e-10 or a half chord not above
+    /// the tolerance. The side isn't turned by a negative bulge, unlike Get3DArcCenter; only `radius` is.
+    int GetArcCentre(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector, double bulge,
+                     TUVect3D & centre, double & radius);
+
+    /// Centre and radius (not negative) of a plane arc. Always 1; a zero bulge isn't guarded.
+    int GetArcCentre2D(TUVect2D const & start, TUVect2D const & end, double const & bulge, TUVect2D & centre,
+                       double & radius);
+
+    /// GetArcCentreVectorBulge without its last two outputs.
+    int GetArcCentre(TUVect2D const & start, TUVect2D const & end, double bulge, TUVect2D & centre,
+                     double & radius);
+
+    /// Centre and radius of a plane arc, the unit vector from the middle of the chord to the apex and
+    /// |bulge|. 0 for a zero bulge or chord, with only `absBulge` written.
+    int GetArcCentreVectorBulge(TUVect2D const & start, TUVect2D const & end, double bulge, TUVect2D & centre,
+                                double & radius, TUVect2D & direction, double & absBulge);
+
+    /// The radius, with the sign of the bulge. Always 1; a zero bulge isn't guarded.
+    int GetRadiusOf3DArcFromTwoPointsAndBulge(TUVect3D const & start, TUVect3D const & end,
+                                              double const & bulge, double & radius);
+
+    /// The length along the arc: 0 if the ends are one place, the chord for |bulge| below 1e-14. A bulge
+    /// below -1 is measured as the smaller arc of its circle.
+    double GetArcLength(TUVect3D const & start, TUVect3D const & end, double const & bulge);
+
+    /// The included angle of the smaller arc with this radius; 0 with `angle` 0 if the chord doesn't fit.
+    int GetAngleOfArc(TUVect3D const & start, TUVect3D const & end, double const & radius, double & angle);
+
+    /// The angle from `a` to `b` about `normal`, 0 to 2*pi, to seven decimals; 0 if either is shorter than
+    /// 1e-7. Always 1.
+    int GetOrientAngle(TUVect3D a, TUVect3D b, TUVect3D const & normal, double & angle);
+
+    /// Bulge and `arcVector` of the arc about `centre`: the smaller one for `smaller` 1, else the larger one,
+    /// which goes round the centre. A centre on the chord gives 0 with the bulge of the half circle written;
+    /// a zero chord 0 with bulge 0.
+    int CalcBulgeOf3DArc2PtsAndCenter(TUVect3D const & start, TUVect3D const & end, TUVect3D & centre,
+                                      TUVect3D * arcVector, double & bulge, int smaller);
+
+    /// Bulge of the smaller arc with this radius. 0 with bulge 0 for a zero chord.
+    int CalcBulgeOf3DArc2PtsAndRadius(TUVect3D const & start, TUVect3D const & end, double radius,
+                                      double & bulge);
+
+    /// Bulge and unit `arcVector` of the arc through three points. 0, both cleared, if they lie on one line.
+    int CalcBulgeOf3DArc3Points(TUVect3D const & start, TUVect3D const & end, TUVect3D const & through,
+                                TUVect3D * arcVector, double & bulge);
+
+    /// Bulge from chord length and radius, of the larger arc if `big` isn't 0. 0, `bulge` cleared, if the
+    /// chord is zero or doesn't fit.
+    int CalcBulgeLengthAndRadius(double chord, double radius, double & bulge, int big);
+
+    /// Radius from bulge and chord length, and whether it is the larger arc. For a negative bulge the radius
+    /// is negative and `big` the opposite. 0, `radius` cleared, for |bulge| below 1e-5.
+    int CalcRadiusFromBulgeAndLength(double bulge, double chord, double & radius, int & big);
+
+    /// `arcVector` and bulge of the other arc of the circle between the same ends. Always 1.
+    int GetArcComplement(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                         double const & bulge, TUVect3D & complementVector, double & complementBulge);
+
+    /// Slides `point` along the chord's direction until it stands over the middle of the chord. 0 for a point
+    /// on the chord's line.
+    int MovePtTo3DArcCenter(TUVect3D const & start, TUVect3D const & end, TUVect3D * point);
+
+    /// End points of two tangent handles, half a chord long, at start (`p1`, ahead) and end (`p2`, back), for
+    /// the circle's `axis`. 0 as Get3DArcCenter.
+    int Get3DArcTangentPoints(TUVect3D const & start, TUVect3D const & end, TUVect3D const & axis,
+                              TUVect3D const & arcVector, double bulge, TUVect3D & p1, TUVect3D & p2);
+
+    /// Unit tangents at the ends of a plane arc, both toward the apex: `t1` ahead from the start, `t2` back
+    /// from the end. 0 as GetArcCentreVectorBulge.
+    int GetArcTangentVectors(TUVect2D const & start, TUVect2D const & end, double bulge, TUVect2D & t1,
+                             TUVect2D & t2);
+
+    /// Direction angle of a plane arc's tangent at the start, not reduced to one turn.
+    double GetArcTanAngle(TUVect2D const & start, TUVect2D const & end, double const & bulge);
+
+    /// A polyline along the arc, at least 5 segments, none above 0.20667 radians; the caller frees `points`
+    /// with delete[]. `arcVector` becomes its unit part perpendicular to the chord. A flat arc gives its two
+    /// ends; an angle that comes out as 0 gives 1 with `count` and `points` untouched.
+    int Make3dArc(TUVect3D const & start, TUVect3D const & end, TUVect3D & arcVector, double bulge,
+                  long & count, TUVect3D *& points);
+
+    /// The point at `value` along the arc from its start: a length (`mode` 0), a fraction (1) or a percentage
+    /// (2). 0 beyond the end by more than the tolerance; a negative value goes back from the start.
+    int Get3DPointOnArc(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                        double const & bulge, double const & value, int const & mode, TUVect3D & point);
+
+    /// The point at `distance` along the circle from `point`, which must lie on the arc, toward the end.
+    int MovePointAlongArc(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                          double const & bulge, TUVect3D const & point, double const & distance,
+                          TUVect3D & result);
+
+    /// 1 if `point` lies on the arc, and on the arc or its complement.
+    int PointOnArc(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                   double const & bulge, TUVect3D const & point);
+    int PointOnCircle(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                      double const & bulge, TUVect3D const & point);
+
+    /// The arc from the same start on the same circle with a new length; a flat arc as StretchLine3D. 0 for
+    /// 1.95 pi or more, and for an arc too flat for three points to give it.
+    int StretchArc3D(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
+                     double const & bulge, double const & length, TSPlaneEdge3D & result);
+
+    /// The segment from the same start with a new length; writes start, end and type only.
+    int StretchLine3D(TUVect3D const & start, TUVect3D const & end, double length, TSPlaneEdge3D & result);
+
+    /// The edge with a new length by its type; a point edge is copied.
+    int StretchEdge3D(TSPlaneEdge3D const & edge, double length, TSPlaneEdge3D & result);
+
+    /// Turns `vector` about `axis`. 0, with the vector made a unit vector, for an axis shorter than 1e-8; a
+    /// vector shorter than that stays.
+    int RotateVectorAroundAxis(TUVect3D & vector, TUVect3D const & axis, double const & angle);
+
+    /// New bulges of the two edges, ends given, that follow the arc `old` at the distance `offset` on either
+    /// side: the one whose chord is not shorter outside, else inside. 0, bulges untouched, if the arc is too
+    /// small for the offset or has no radius.
+    int ReduceBulge(TSPlaneEdge2D const & old, TSPlaneEdge2D & a, TSPlaneEdge2D & b, double offset);
+
     // ---- lines, planes and rectangles in space ----------------------------------------------------------
 
     /// The plane through three points, its origin the first. 0 if they lie on one line; a nearly parallel
@@ -449,6 +578,126 @@ class KX7_API CMathematics : public CObject
                            int & count, int & class1, int & class2);
 
     // ---- edge algebra -----------------------------------------------------------------------------------
+
+    // Points, segments and arcs behind one type. All comparisons use the tolerance. A set of edges comes as
+    // an array and its count; the caller frees the array with delete[]. A result of 0 leaves the array null
+    // and the count 0. `how` tells how two edges meet: 0 they are the same edge (one record, a copy), 1 they
+    // overlap in stretches (line or arc records), 2 they meet in separate points (point records).
+
+    /// A record with the given fields, the rest cleared; for a point start and end are both the point.
+    TSPlaneEdge3D GetEdgeFromPoint(TUVect3D * const point);
+    TSPlaneEdge3D GetEdgeFromLine(TUVect3D * const start, TUVect3D * const end);
+    TSPlaneEdge3D GetEdgeFromArc(TUVect3D * const start, TUVect3D * const end, TUVect3D * const arcVector,
+                                 double const & bulge);
+
+    /// 1 for the same edge, in either direction; arcs by their ends and their middle.
+    int CompareArc(TSPlaneEdge3D * a, TSPlaneEdge3D * b);
+    int CompareEdge(TSPlaneEdge3D * a, TSPlaneEdge3D * b);
+
+    /// What two edges have in common. Frees what `result` holds on entry; `a` and `b` may lie in it.
+    int EdgeIntersection(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result,
+                         int & count, int & how);
+
+    /// The single cases of EdgeIntersection, by the types of `a` and `b` in this order. `result` isn't freed
+    /// on entry, only written.
+    int EdgePointPointIntersection(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result,
+                                   int & count, int & how);
+    int EdgePointLineIntersection(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result,
+                                  int & count, int & how);
+    int EdgePointArcIntersection(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result,
+                                 int & count, int & how);
+    int EdgeLineLineIntersection(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result,
+                                 int & count, int & how);
+    int EdgeLineArcIntersection(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result,
+                                int & count, int & how);
+    /// Arcs of one circle that share no more than points keep `how` 1.
+    int EdgeArcArcIntersection(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result,
+                               int & count, int & how);
+
+    /// The common stretch of two segments; p1 and p2 are one place if they only touch.
+    int LineLiesOnLine(TUVect3D & a1, TUVect3D & a2, TUVect3D & b1, TUVect3D & b2, TUVect3D & p1,
+                       TUVect3D & p2);
+
+    /// The common stretches of two arcs of one plane, centre and radius, one or two, each in the direction of
+    /// an arc it comes from; a point record where they only touch. `result` isn't freed on entry.
+    int ArcLiesOnArc(TSPlaneEdge3D * a, TSPlaneEdge3D * b, TSPlaneEdge3D *& result, int & count);
+
+    /// The same for two edges of one type. Frees what `result` holds on entry.
+    int Edge3DLiesOnEdge3D(TSPlaneEdge3D * a, TSPlaneEdge3D * b, TSPlaneEdge3D *& result, int & count);
+
+    /// 1 if the second edge lies wholly on the first. An edge of another type than a point never does.
+    int IsLineInLine(TUVect3D const & a1, TUVect3D const & a2, TUVect3D const & b1, TUVect3D const & b2);
+    int IsArcInArc(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b);
+    int IsEdgeInEdge(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b);
+
+    /// 1 if the point lies on the edge, with its distance along the edge from the start.
+    int IsPoint3DInEdge3D(TSPlaneEdge3D const & edge, TUVect3D const & point, double & distance);
+
+    /// The point at `value` along the edge: a distance (`mode` 0), a fraction (1) or a percentage (2). A
+    /// point edge gives its point whatever the mode.
+    int Get3DPointOnEdge3D(TSPlaneEdge3D const & edge, double const & value, int const & mode,
+                           TUVect3D & point);
+
+    /// The unit vector of travel at a point of the edge; zero for a point edge and where there is none.
+    TUVect3D GetDerivationVectorOnEdge3D(TSPlaneEdge3D const & edge, TUVect3D & point);
+    TUVect3D GetDerivationVectorOnEdge3D(TSPlaneEdge3D const & edge, double const & value, int const & mode);
+
+    /// The length; 0 for null and a point edge.
+    double GetLengthEdge3D(TSPlaneEdge3D * edge);
+
+    /// The part of a line or arc between two places, in that direction. For a line the places aren't checked;
+    /// for an arc they must lie on it, and two places in one give a point edge.
+    int GetSectionOfEdge(TSPlaneEdge3D const & edge, TUVect3D & from, TUVect3D & to, TSPlaneEdge3D * result);
+    int GetSectionOfArc(TSPlaneEdge3D const & arc, TUVect3D & from, TUVect3D & to, TSPlaneEdge3D * result);
+
+    /// The same between two distances from the start.
+    int GetSectionOfEdge(TSPlaneEdge3D const & edge, double from, double to, TSPlaneEdge3D * result);
+    int GetSectionOfArc(TSPlaneEdge3D const & arc, double from, double to, TSPlaneEdge3D * result);
+
+    /// Cuts a line or arc at points that lie on it in order. A point at an end and a repeated one make no
+    /// piece; fewer than two pieces give 0. Frees what `pieces` holds on entry.
+    int DivideEdge3D(TSPlaneEdge3D const & edge, TUVect3D const * const points, int const & count,
+                     TSPlaneEdge3D *& pieces, int & pieceCount);
+
+    /// The first edge with the second, which must lie on it, taken out: one or two pieces in the first one's
+    /// direction; 0 if nothing remains. Frees what `result` holds on entry; the two forms behind it don't.
+    int EdgeExtractEdge(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result,
+                        int & count);
+    int LineExtractLine(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result,
+                        int & count);
+    int ArcExtractArc(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D *& result, int & count);
+
+    /// Two overlapping segments of one direction as one, in the direction of the first. Arcs are never
+    /// joined: always 0.
+    int JointEdge3D(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D * result);
+    int JointLine3D(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D * result);
+    int JointArc3D(TSPlaneEdge3D * const a, TSPlaneEdge3D * const b, TSPlaneEdge3D * result);
+
+    /// Exchanges start and end of `b` if its end is nearer to the start of `a`. Always 1.
+    int HarmonyEdge(TSPlaneEdge3D * a, TSPlaneEdge3D * b);
+
+    /// The part of `b` that corresponds to the part `sub` of `a` by the ratio of their lengths.
+    int TransformSubArc(TSPlaneEdge3D const & a, TSPlaneEdge3D const & sub, TSPlaneEdge3D & b,
+                        TSPlaneEdge3D & result);
+
+    /// TransformSubArc for `count` parts. 0 for a count below 1, an edge without length and a part that isn't
+    /// on `a`; the records before it are written.
+    int DivideEdgeFromEdge(TSPlaneEdge3D * a, TSPlaneEdge3D * subs, TSPlaneEdge3D * b,
+                           TSPlaneEdge3D * results, int count);
+
+    /// The box of two points, and of an edge: an arc counts with its full circle.
+    void CalcBlock3D(TUVect3D const & a, TUVect3D const & b, TS3DBlock * result);
+    void CalcBlock3DFromEdge(TSPlaneEdge3D const & edge, TS3DBlock * result);
+
+    /// The union of two boxes.
+    void SumBlock3D(TS3DBlock * a, TS3DBlock * b, TS3DBlock * result);
+
+    /// The overlap of two boxes. 0 if they miss each other in x or y by more than the tolerance, the axes
+    /// behind untouched; z isn't tested.
+    int CutBlock(TS3DBlock * a, TS3DBlock * b, TS3DBlock * result);
+
+    /// 1 if the boxes overlap within the tolerance on all three axes.
+    int IsIntersectionOfBlock(TS3DBlock * a, TS3DBlock * b);
 
     // ---- plane elements ---------------------------------------------------------------------------------
 
