@@ -5,8 +5,17 @@
 
 #include "platform/base/array.h"
 #include "platform/base/code_page.h"
+#include "platform/base/combo_box.h"
+#include "platform/base/keyboard.h"
+#include "platform/base/number_parse.h"
 #include "platform/base/object.h"
 #include "platform/base/string.h"
+#include "platform/base/system_information.h"
+
+#include "foundation/basic_dll_storage.h"
+#include "foundation/runtime_parameters.h"
+#include "foundation/stop_action.h"
+#include "foundation/vard_string.h"
 
 #include "geometry/mathematics.h"
 #include "geometry/records.h"

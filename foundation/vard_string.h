@@ -14,7 +14,7 @@ class KX7_API CVARDString
 {
   public:
     /// An empty text.
-    CVARDString() = default;
+    CVARDString() {}
 
     /// Copies the text alone: the time isn't copied and the locale language id becomes 0.
     CVARDString(CVARDString const & other);

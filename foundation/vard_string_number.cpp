@@ -20,9 +20,10 @@ bool IsDigit(char character)
     return character >= '0' && character <= '9';
 }
 
-CString Blanks(int count)
+/// The blanks that a text lacks to a length.
+CString BlanksUpTo(int length, CString const & text)
 {
-    return count > 0 ? CString(' ', count) : CString();
+    return length > text.GetLength() ? CString(' ', length - text.GetLength()) : CString();
 }
 }  // namespace
 
