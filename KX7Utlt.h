@@ -3,9 +3,13 @@
 
 // The one header of a host program: every public class that the build offers.
 
+#include "platform/base/archive.h"
 #include "platform/base/array.h"
 #include "platform/base/code_page.h"
+#include "platform/base/collections.h"
 #include "platform/base/combo_box.h"
+#include "platform/base/exception.h"
+#include "platform/base/file.h"
 #include "platform/base/keyboard.h"
 #include "platform/base/number_parse.h"
 #include "platform/base/object.h"

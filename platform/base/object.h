@@ -15,13 +15,15 @@ struct KX7_API CRuntimeClass
 {
     char const * m_lpszClassName;        ///< Name as written in the source; goes into archives.
     int m_nObjectSize;                   ///< Size of an object in bytes.
-    UINT m_wSchema;                      ///< Schema number in archives; 0xFFFF if it isn't serial.
+    UINT m_wSchema;                      ///< Schema number in archives; kNoSchema if it isn't serial.
     CObject * (*m_pfnCreateObject)();    ///< Makes an object; null for a class that can't be made.
     CRuntimeClass const * m_pBaseClass;  ///< Record of the base class; null for CObject.
-    CRuntimeClass const * m_pNextClass =
-        nullptr;  ///< Next record in the process-wide list of serial classes.
 
-    /// Makes a new object of the class, owned by the caller; null if the class can't be made by record.
+    /// Schema number of a class that has no archive form.
+    static constexpr UINT kNoSchema = 0xFFFF;
+
+    /// Makes a new object of the class, owned by the caller; null if the class can't be made by record or
+    /// memory is out.
     CObject * CreateObject() const;
 
     /// Whether the class is `base` or derives from it, directly or over others.
@@ -36,14 +38,21 @@ namespace detail {
 class KX7_API ClassRegistration
 {
   public:
-    explicit ClassRegistration(CRuntimeClass & record);
+    explicit ClassRegistration(CRuntimeClass const & record);
     ~ClassRegistration();
     ClassRegistration(ClassRegistration const &) = delete;
     ClassRegistration & operator=(ClassRegistration const &) = delete;
 
+    CRuntimeClass const & Record() const { return m_record; }
+    ClassRegistration const * Next() const { return m_next; }
+
   private:
-    CRuntimeClass & m_record;
+    CRuntimeClass const & m_record;
+    ClassRegistration * m_next;
 };
+
+/// Reads an object that must be of the class or null; behind the `>>` of each serial class.
+KX7_API CObject * ReadObjectOfClass(CArchive & archive, CRuntimeClass const * record);
 }  // namespace detail
 
 /// Root of all classes with run-time class information and archive form.
@@ -74,7 +83,13 @@ class KX7_API CObject
     static CRuntimeClass const classCObject;
 };
 
+/// The record of a class.
 #define RUNTIME_CLASS(className) (&className::class##className)
+
+// Each DECLARE_ macro stands inside the class and leaves it `public`; the IMPLEMENT_ macro of the same name
+// stands in one source file. DYNAMIC gives a record, DYNCREATE also lets the record make objects (the class
+// needs a constructor without arguments), SERIAL also gives the class its identity in archives: name and
+// schema number.
 
 #define DECLARE_DYNAMIC(className)               \
   public:                                        \
@@ -85,32 +100,39 @@ class KX7_API CObject
     DECLARE_DYNAMIC(className)       \
     static CObject * CreateObject();
 
-#define DECLARE_SERIAL(className)                           \
-  public:                                                   \
-    static CRuntimeClass class##className;                  \
-    CRuntimeClass const * GetRuntimeClass() const override; \
-    static CObject * CreateObject();                        \
-    friend CArchive & operator>>(CArchive & archive, className *& object);
+#define DECLARE_SERIAL(className)                                                                         \
+    DECLARE_DYNCREATE(className)                                                                          \
+    friend CArchive & operator>>(CArchive & archive, className *& object)                                 \
+    {                                                                                                     \
+        object =                                                                                          \
+            static_cast<className *>(::detail::ReadObjectOfClass(archive, &className::class##className)); \
+        return archive;                                                                                   \
+    }
 
-#define IMPLEMENT_DYNAMIC(className, baseName)                                                          \
+#define KX7_IMPLEMENT_RECORD(className, baseName, schema, create)                                       \
     CRuntimeClass const className::class##className = {#className, static_cast<int>(sizeof(className)), \
-                                                       0xFFFF, nullptr, RUNTIME_CLASS(baseName)};       \
+                                                       schema, create, RUNTIME_CLASS(baseName)};        \
     CRuntimeClass const * className::GetRuntimeClass() const                                            \
     {                                                                                                   \
         return RUNTIME_CLASS(className);                                                                \
     }
 
-#define IMPLEMENT_DYNCREATE(className, baseName)                                                        \
-    CObject * className::CreateObject()                                                                 \
-    {                                                                                                   \
-        return new className;                                                                           \
-    }                                                                                                   \
-    CRuntimeClass const className::class##className = {#className, static_cast<int>(sizeof(className)), \
-                                                       0xFFFF, &className::CreateObject,                \
-                                                       RUNTIME_CLASS(baseName)};                        \
-    CRuntimeClass const * className::GetRuntimeClass() const                                            \
-    {                                                                                                   \
-        return RUNTIME_CLASS(className);                                                                \
-    }
+#define IMPLEMENT_DYNAMIC(className, baseName) \
+    KX7_IMPLEMENT_RECORD(className, baseName, CRuntimeClass::kNoSchema, nullptr)
+
+#define IMPLEMENT_DYNCREATE(className, baseName) \
+    CObject * className::CreateObject()          \
+    {                                            \
+        return new className;                    \
+    }                                            \
+    KX7_IMPLEMENT_RECORD(className, baseName, CRuntimeClass::kNoSchema, &className::CreateObject)
+
+#define IMPLEMENT_SERIAL(className, baseName, schema)                           \
+    CObject * className::CreateObject()                                         \
+    {                                                                           \
+        return new className;                                                   \
+    }                                                                           \
+    KX7_IMPLEMENT_RECORD(className, baseName, schema, &className::CreateObject) \
+    static ::detail::ClassRegistration const g_registrationOf##className(className::class##className);
 
 #endif

@@ -1,8 +1,8 @@
 #ifndef KX7_PLATFORM_BASE_TYPES_H
 #define KX7_PLATFORM_BASE_TYPES_H
 
-// The Win32 scalar types, records and codes that portable code uses. The Windows build takes them from the
-// system's headers; elsewhere the same names are declared here with the same widths and values.
+// The Win32 scalar types that portable code uses. The Windows build takes them from the system's headers;
+// elsewhere the same names are declared here with the same widths and values.
 #if defined(_WIN32)
 
 #include <windows.h>
@@ -15,7 +15,9 @@ using BYTE = std::uint8_t;
 using WORD = std::uint16_t;
 using DWORD = std::uint32_t;
 using LONG = std::int32_t;
+using LONGLONG = std::int64_t;
 using UINT = std::uint32_t;
+using ULONGLONG = std::uint64_t;
 using BOOL = int;
 
 constexpr BOOL TRUE = 1;
