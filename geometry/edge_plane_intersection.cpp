@@ -3,18 +3,12 @@
 #include <cmath>
 #include <new>
 
+#include "geometry/arc_frame.h"
 #include "geometry/mathematics.h"
-#include "geometry/snapped_vectors.h"
 
 using namespace detail;
 
 namespace {
-/// The code of an arc in the plane.
-constexpr int kArcInPlane = 33;
-
-/// The low bits of an intersection code hold the number of points.
-constexpr int kPointCountBits = 15;
-
 TSPlaneEdge3D PointEdge(TUVect3D const & point)
 {
     TSPlaneEdge3D edge = {};

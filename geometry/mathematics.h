@@ -409,7 +409,8 @@ class KX7_API CMathematics : public CObject
     /// The same with the point of meeting in `p1` (`p2` untouched) and `kind` telling where it lies: 1
     /// outside both, 2 inside both, 3 outside the first, inside the second, 4 the reverse, 5 end of the
     /// first, inside the second, 6 the reverse, 7 end of the second, outside the first, 8 the reverse, 9 end
-    /// of both, 10 one line (9 if in one point; p1, p2 the ends of the common stretch), 11 parallel, 0 none.
+    /// of both, 10 one line (9 if in one point; p1, p2 the ends of the common stretch), 0 none, parallel
+    /// lines too.
     int LineIntersection(TUVect3D const & a1, TUVect3D const & a2, TUVect3D const & b1, TUVect3D const & b2,
                          int mode, TUVect3D & p1, TUVect3D & p2, int & kind);
 
@@ -521,7 +522,8 @@ class KX7_API CMathematics : public CObject
                              double const & bulge, TUVect3D const & origin, TUVect3D const & normal);
 
     /// Two arcs. Mind the order of the parameters: a1 on A for p1, b2 on B for p2, b1 on B for p1, a2 on A
-    /// for p2. Code 3 fills them otherwise: b1, b2 are B's ends placed on A, a1, a2 A's ends placed on B.
+    /// for p2. For arcs of one circle p1, p2 are B's ends with a1, a2 on A, and b1, b2 are those of A's ends
+    /// on B. `flags` here: 1, 2, 4, 8 for a1, b2, b1, a2 filled.
     int ArcIntersectionParameters(TUVect3D const & startA, TUVect3D const & endA, TUVect3D const & arcVectorA,
                                   double const & bulgeA, TUVect3D const & startB, TUVect3D const & endB,
                                   TUVect3D const & arcVectorB, double const & bulgeB, TUVect3D & p1,
@@ -567,12 +569,18 @@ class KX7_API CMathematics : public CObject
                             double const & bulge, double const & x1, double const & y1, double const & x2,
                             double const & y2, double const (*matrix)[3]);
 
-    /// The feet on the arc of the perpendicular from `p`: their number, the nearer one first.
+    /// The feet on the arc of the perpendiculars from `p`: their number, 0 for a `p` on the arc's axis.
+    /// `foot` and `other` get both feet on the circle, those on the arc first, then the nearer one; their
+    /// classes are 2 on the arc, 1 on the rest of the circle, 0 for none. A flat arc has one foot, on its
+    /// chord.
     int PointCastOnArc(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
                        double const & bulge, TUVect3D const & p, TUVect3D & foot, TUVect3D & other,
                        int & class1, int & class2);
 
-    /// The points of the arc whose tangents pass through `p`: their number.
+    /// The points of the arc whose tangents pass through `p`, which must lie in the arc's plane: their
+    /// number. `t1` and `t2` get those on the whole circle, `count` of them, with classes as for
+    /// PointCastOnArc and those on the arc first. A point on the circle is its own tangent point; a flat arc
+    /// has none.
     int Arc3DTangentPoints(TUVect3D const & start, TUVect3D const & end, TUVect3D const & arcVector,
                            double const & bulge, TUVect3D const & p, TUVect3D & t1, TUVect3D & t2,
                            int & count, int & class1, int & class2);
