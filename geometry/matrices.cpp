@@ -26,7 +26,7 @@ double LargestAbsolute(double const (&matrix)[3][3])
 /// none.
 int PivotRow(double const (&matrix)[3][3], int k, double threshold)
 {
-    if (std::fabs(matrix[k][k]) >= threshold)
+    if (threshold == 0.0 || std::fabs(matrix[k][k]) >= threshold)
         return k;
     int row = k;
     while (row < 3 && !(std::fabs(matrix[row][k]) > threshold))
