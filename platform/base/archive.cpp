@@ -158,6 +158,20 @@ void CArchive::WriteString(char const * text)
 BOOL CArchive::ReadString(CString & line)
 {
     RequireLoading();
+    // As a rule the buffer holds the whole line.
+    BYTE const * const first = m_buffer.data() + m_position;
+    auto const * lineFeed = static_cast<BYTE const *>(std::memchr(first, '\n', m_end - m_position));
+    if (!lineFeed)
+        return ReadStringInPieces(line);
+    auto const length = static_cast<std::size_t>(lineFeed - first);
+    m_position += length + 1;
+    bool const hasReturn = length > 0 && first[length - 1] == '\r';
+    line.Assign({reinterpret_cast<char const *>(first), hasReturn ? length - 1 : length});
+    return TRUE;
+}
+
+BOOL CArchive::ReadStringInPieces(CString & line)
+{
     std::string text;
     bool isEnded = false;
     bool hasRead = false;
@@ -172,7 +186,7 @@ BOOL CArchive::ReadString(CString & line)
     }
     if (isEnded && text.ends_with('\r'))
         text.pop_back();
-    line = CString(std::string_view(text));
+    line.Assign(text);
     return hasRead ? TRUE : FALSE;
 }
 

@@ -179,6 +179,7 @@ class KX7_API CArchive
     }
 
     void LoadBytesSlowly(void * bytes, std::size_t count);
+    BOOL ReadStringInPieces(CString & line);
     bool FillBuffer();
     void RequireLoading() const;
     void RequireStoring() const;

@@ -29,6 +29,15 @@ class KX7_API CString
     CString & operator=(char const * text);
     CString & operator=(char character);
 
+    /// Takes the bytes, into the memory that the text has if no copy shares it.
+    void Assign(std::string_view text)
+    {
+        if (m_text && m_text.use_count() == 1)
+            m_text->assign(text);
+        else
+            m_text = std::make_shared<std::string>(text);
+    }
+
     /// The bytes, ended by a NUL; valid until this text is changed or, if no copy shares it, destroyed.
     operator char const *() const noexcept { return m_text ? m_text->c_str() : ""; }
 

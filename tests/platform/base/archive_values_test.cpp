@@ -208,6 +208,18 @@ TEST(ArchiveLines, CrossTheBuffer)
     EXPECT_FALSE(archive.ReadString(line));
 }
 
+TEST(ArchiveLines, LeaveACopyOfTheLineBefore)
+{
+    CauseOfLoading("first\nsecond\n", [](CArchive & archive) {
+        CString line;
+        archive.ReadString(line);
+        CString const kept = line;
+        archive.ReadString(line);
+        EXPECT_EQ(kept, "first");
+        EXPECT_EQ(line, "second");
+    });
+}
+
 TEST(ArchiveLines, AreWrittenAsTheyStand)
 {
     EXPECT_EQ(Stored([](CArchive & archive) {

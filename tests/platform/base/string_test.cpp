@@ -52,6 +52,19 @@ TEST(StringMaking, AssignsFromItsOwnBytes)
     EXPECT_TRUE(text.IsEmpty());
 }
 
+TEST(StringMaking, AssignsBytesWithoutTouchingACopy)
+{
+    CString text("first");
+    CString const copy = text;
+    text.Assign(std::string_view("a\0b", 3));
+    EXPECT_EQ(text.GetLength(), 3);
+    EXPECT_EQ(copy, "first");
+    text.Assign(text.View().substr(2));
+    EXPECT_EQ(text, "b");
+    text.Assign({});
+    EXPECT_TRUE(text.IsEmpty());
+}
+
 TEST(StringCopy, SharesBytesUntilOneChanges)
 {
     CString first = "a text that is longer than any small buffer";
