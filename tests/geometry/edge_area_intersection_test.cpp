@@ -90,7 +90,7 @@ TEST(CutElement, BothEndsOnTheBoundaryAndTheMiddleInside)
 {
     Cut const cut = CutBy(Line(0, 2, 4, 3), kSquare);
     EXPECT_THAT(cut.intervals, ElementsAre(Is(0, std::sqrt(17.0), -1, 0)));
-    EXPECT_EQ(cut.flags, 1);
+    EXPECT_EQ(cut.flags, 3);  // the end itself is on the boundary
 }
 
 TEST(CutElement, TouchAtOneInnerPointIsSeenThroughTheIntervalOnly)
@@ -175,8 +175,8 @@ TEST(CutElement, AlongTheTopsOfAComb)
 
 TEST(CutElement, StretchBetweenTwoTouchesOnTheBoundaryCountsAsInside)
 {
-    // A flat roof point: sides from (0, 0) up to (2, 5e-7) and down to (4, 0) stay within the tolerance of the
-    // line y = 0 without being parallel to it for the intersection.
+    // A flat roof point: sides from (0, 0) up to (2, 5e-7) and down to (4, 0) stay within the tolerance of
+    // the line y = 0 without being parallel to it for the intersection.
     Outline const almostFlat = Closed({V(0, 0), V(2, -8e-7), V(4, 0), V(4, 3), V(0, 3)});
     Cut const cut = CutBy(Line(-1, 0, 5, 0), almostFlat);
     EXPECT_NE(cut.flags, 0);
@@ -201,9 +201,9 @@ TEST(CutElement, OpenOutlineIsClosedByItsLastSide)
 TEST(CutElement, OpenOutlineWithTheClosingArcInFront)
 {
     Outline const open = {Arc(-1.0), V(0, 0), V(4, 0), V(4, 4), V(0, 4)};  // bulges to x = -2
-    Cut const cut = CutBy(Line(-3, 2, 2, 2), open);
+    Cut const cut = CutBy(Line(-3, 2, 3, 2), open);
     EXPECT_EQ(cut.flags, 5);
-    EXPECT_THAT(cut.intervals, ElementsAre(Is(1, 5, -1, 0)));
+    EXPECT_THAT(cut.intervals, ElementsAre(Is(1, 6, -1, 0)));
 }
 
 TEST(CutElement, ArcAcrossASide)

@@ -1,8 +1,8 @@
 #ifndef KX7_TESTS_GEOMETRY_OUTLINES_H
 #define KX7_TESTS_GEOMETRY_OUTLINES_H
 
-// Outlines of areas as tests, fuzzers and benchmarks write them: a list of vertices and arc markers, in closed
-// form once it goes into an area.
+// Outlines of areas as tests, fuzzers and benchmarks write them: a list of vertices and arc markers, in
+// closed form once it goes into an area.
 
 #include <cmath>
 #include <initializer_list>

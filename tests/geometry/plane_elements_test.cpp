@@ -461,7 +461,7 @@ TEST(SegmentParameters, CollinearTouchAtTheEnd)
 
 TEST(SegmentParameters, IdenticalSegmentsGiveTheSecondOne)
 {
-    SegmentMeeting const m = Cross(P(0, 0), P(2, 0), P(5e-7, 0), P(2, 5e-7));
+    SegmentMeeting const m = Cross(P(0, 0), P(2, 0), P(5e-7, 5e-7), P(2, 5e-7));
     EXPECT_EQ(m.met, 1);
     EXPECT_EQ(m.kind, 10);
     EXPECT_EQ(m.t1, 0.0);
