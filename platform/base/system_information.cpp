@@ -28,9 +28,11 @@ void GetSystemInfo(SYSTEM_INFO * information)
     information->dwAllocationGranularity = information->dwPageSize;
 }
 
-int GetSystemMetrics(int)
+int GetSystemMetrics(int index)
 {
-    return 0;
+    if (index == SM_CXSCREEN)
+        return kNominalScreenWidth;
+    return index == SM_CYSCREEN ? kNominalScreenHeight : 0;
 }
 
 #endif

@@ -47,7 +47,11 @@ KX7_API BOOL GetVersionExA(OSVERSIONINFOA * version);
 /// Fills the page size and the number of processors; all else is zero.
 KX7_API void GetSystemInfo(SYSTEM_INFO * information);
 
-/// A measure of the screen in pixels; 0 for every index, as there is no screen.
+// There is no screen; a picture this large stands for one, so that what is cut to the screen's size is drawn.
+constexpr int kNominalScreenWidth = 1920;
+constexpr int kNominalScreenHeight = 1080;
+
+/// The nominal screen's width or height in pixels; 0 for every other index.
 KX7_API int GetSystemMetrics(int index);
 
 #endif
