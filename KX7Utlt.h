@@ -31,5 +31,7 @@
 
 #include "geometry/mathematics.h"
 #include "geometry/records.h"
+#include "geometry/vo_outline_box_2d.h"
+#include "geometry/vo_polygon.h"
 
 #endif

@@ -1,57 +1,9 @@
 // Cutting an element at the boundary of an area, side by side.
 
-#include <memory>
-
-#include "geometry/detail_element_cut.h"
+#include "geometry/detail_plain_cut_kernel.h"
 #include "geometry/mathematics.h"
 
 using namespace detail;
-
-namespace {
-/// The geometry of a cut, by the operations of the kernel themselves.
-class PlainCutKernel
-{
-  public:
-    PlainCutKernel(CMathematics & math, Area const & area) : m_math(math), m_area(area) {}
-
-    bool Same(TUVect2D const & p, TUVect2D const & q) { return m_math.ComparePoints(p, q, 1) != 0; }
-
-    int Meet(TSelem const & e, TSelem const & side, TSelem (&parts)[2], int & count, int & kind)
-    {
-        TSelem * found = nullptr;
-        if (!m_math.ElemIntersection(e, side, found, count, kind))
-            return 0;
-        std::unique_ptr<TSelem[]> const owner(found);
-        std::copy_n(found, 2, parts);
-        return 1;
-    }
-
-    double PositionOf(TSelem const & e, TUVect2D const & p)
-    {
-        double position = 0.0;
-        m_math.IsPointInEelem(e, p, position);
-        return position;
-    }
-
-    TUVect2D PointAt(TSelem const & e, double position)
-    {
-        TUVect2D p = e.start;
-        m_math.GetPointOnEelem(e, position, 0, p);
-        return p;
-    }
-
-    int ClassOf(TUVect2D const & p)
-    {
-        int pointClass = 1;  // asks for the full test
-        m_math.IsPointInArea(p, &m_area, 0, pointClass);
-        return pointClass;
-    }
-
-  private:
-    CMathematics & m_math;
-    Area const & m_area;
-};
-}  // namespace
 
 int CMathematics::EdgeAreaIntersection(TSelem const & e,
                                        CArray<TSPoint2DPlane, TSPoint2DPlane &> const & area,
