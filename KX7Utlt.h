@@ -34,4 +34,8 @@
 #include "geometry/vo_outline_box_2d.h"
 #include "geometry/vo_polygon.h"
 
+#include "drawing/dim_line.h"
+
+#include "views2d/rect2d_object.h"
+
 #endif
