@@ -66,6 +66,12 @@ char ByteOf(char32_t point)
     return found == kHighHalf.end() ? kReplacement : static_cast<char>(0x80 + (found - kHighHalf.begin()));
 }
 
+char16_t PointOf(char character)
+{
+    unsigned const byte = static_cast<std::uint8_t>(character);
+    return byte < 0x80 ? static_cast<char16_t>(byte) : kHighHalf[byte - 0x80];
+}
+
 unsigned UnitAt(std::string_view text, std::size_t at)
 {
     return static_cast<std::uint8_t>(text[at]);
@@ -114,8 +120,7 @@ std::string Utf8From1250(std::string_view text)
     std::string result;
     result.reserve(text.size());
     for (char const character : text) {
-        unsigned const byte = static_cast<std::uint8_t>(character);
-        unsigned const point = byte < 0x80 ? byte : kHighHalf[byte - 0x80];
+        unsigned const point = PointOf(character);
         if (point < 0x80)
             result += character;
         else if (point < 0x800)
@@ -125,6 +130,13 @@ std::string Utf8From1250(std::string_view text)
                 {static_cast<char>(0xE0 | (point >> 12)), static_cast<char>(0x80 | ((point >> 6) & 0x3F)),
                  static_cast<char>(0x80 | (point & 0x3F))};
     }
+    return result;
+}
+
+std::u16string Utf16From1250(std::string_view text)
+{
+    std::u16string result(text.size(), u'\0');
+    std::ranges::transform(text, result.begin(), PointOf);
     return result;
 }
 

@@ -19,6 +19,9 @@ KX7_API char LowerCase1250(char character);
 /// number.
 KX7_API std::string Utf8From1250(std::string_view text);
 
+/// The text of code page 1250 as UTF-16, with the same rule.
+KX7_API std::u16string Utf16From1250(std::string_view text);
+
 /// UTF-8 text as code page 1250. What the code page can't say, and what isn't UTF-8, becomes a question mark.
 KX7_API std::string Text1250FromUtf8(std::string_view text);
 

@@ -1,6 +1,7 @@
 #include "platform/base/string.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <cstring>
 #include <utility>
@@ -8,6 +9,8 @@
 #include "platform/base/code_page.h"
 
 namespace {
+constexpr std::uintptr_t kFirstPointer = 0x10000;  // a smaller value in place of a pointer is a resource id
+
 std::string_view ViewOf(char const * text)
 {
     return text ? std::string_view(text) : std::string_view();
@@ -29,7 +32,14 @@ int SignOf(std::strong_ordering order)
 }
 }  // namespace
 
-CString::CString(char const * text) : CString(ViewOf(text)) {}
+CString::CString(char const * text)
+{
+    auto const value = reinterpret_cast<std::uintptr_t>(text);
+    if (value >= kFirstPointer)
+        *this = CString(ViewOf(text));
+    else if (text)
+        LoadString(static_cast<UINT>(value));
+}
 
 CString::CString(char const * text, int length) : CString(std::string_view(text, text ? CountOf(length) : 0))
 {

@@ -19,7 +19,11 @@ class KX7_API CString
     CString() noexcept = default;
     CString(CString const &) noexcept = default;
     CString(CString &&) noexcept = default;
-    CString(char const * text);               ///< The bytes up to the NUL.
+
+    /// The bytes up to the NUL. A value below 0x10000 in place of a pointer is the id of a string resource,
+    /// whose text is taken; no text if there is none.
+    CString(char const * text);
+
     CString(char const * text, int length);   ///< `length` bytes; none for a length below 1.
     CString(char character, int repeat = 1);  ///< The character `repeat` times.
     explicit CString(std::string_view text);  ///< All bytes of the view.
@@ -114,6 +118,13 @@ class KX7_API CString
     /// becomes empty if the format can't be printed.
     void Format(char const * format, ...) KX7_PRINTF(2, 3);
     void FormatV(char const * format, va_list arguments) KX7_PRINTF(2, 0);
+
+    /// Takes the string resource of the id, found as resource_module.h tells, or the one of the given module,
+    /// or the one of the given module and language (the system's language id). FALSE, and no text, if there
+    /// is none.
+    BOOL LoadString(UINT id);
+    BOOL LoadString(HINSTANCE module, UINT id);
+    BOOL LoadString(HINSTANCE module, UINT id, WORD language);
 
     /// A writable buffer of this text's own with room for at least `minimumLength` bytes and a NUL. After a
     /// change, ReleaseBuffer sets the length before anything else is done with the text.
