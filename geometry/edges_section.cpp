@@ -29,34 +29,30 @@ double AngleAbout(TUVect3D const & axis, TUVect3D const & from, TUVect3D const &
     return angle < 0.0 ? angle + 2.0 * std::numbers::pi : angle;
 }
 
-/// Makes `section`, whose ends lie on the round arc at the distances `fromAt` and `toAt`, a part of it.
-bool ShapeRoundSection(CMathematics & math, TSPlaneEdge3D const & arc, TUVect3D const & centre, double fromAt,
-                       double toAt, TSPlaneEdge3D & section)
+/// Makes `section`, whose ends lie on the round arc, a part of it; `forward` if it runs as the arc does.
+void ShapeRoundSection(CMathematics & math, TSPlaneEdge3D const & arc, TUVect3D const & centre, bool forward,
+                       TSPlaneEdge3D & section)
 {
-    TUVect3D halfway;
-    if (!math.Get3DPointOnEdge3D(arc, (fromAt + toAt) / 2.0, 0, halfway))
-        return false;
-    TUVect3D const axis = ArcAxis(arc.start, arc.end, arc.arcVector, arc.bulge);
-    double const angle =
-        AngleAbout(fromAt <= toAt ? axis : -axis, section.start - centre, section.end - centre);
+    TUVect3D const axis = ArcAxis(arc.start, arc.end, arc.arcVector, forward ? 1.0 : -1.0);
+    TUVect3D toHalfway = section.start - centre;
+    double const angle = AngleAbout(axis, toHalfway, section.end - centre);
     // The same as by CalcBulgeOf3DArc2PtsAndCenter, for the smaller or the larger arc as the angle says. The
     // root there loses half of the digits near a half circle, and all sense for ends a little off the circle.
     section.bulge = std::tan(angle / 4.0);
     // From the centre and not from the chord: for flat sections the chord is too near to give a direction.
-    section.arcVector = Unit(halfway - centre);
-    return true;
+    math.RotateVectorAroundAxis(toHalfway, axis, angle / 2.0);
+    section.arcVector = Unit(toHalfway);
 }
 
-/// Makes `section`, a copy of the arc with its ends moved to the distances `fromAt` and `toAt`, a part of it.
-bool ShapeSection(CMathematics & math, TSPlaneEdge3D const & arc, double fromAt, double toAt,
-                  TSPlaneEdge3D & section)
+/// Makes `section`, a copy of the arc with its ends moved to other places on it, a part of it.
+void ShapeSection(CMathematics & math, TSPlaneEdge3D const & arc, bool forward, TSPlaneEdge3D & section)
 {
     TUVect3D centre;
     if (math.Get3DArcCenter(arc.start, arc.end, arc.arcVector, arc.bulge, centre))
-        return ShapeRoundSection(math, arc, centre, fromAt, toAt, section);
-    // A flat arc counts as its chord: the section is as much flatter as it is shorter.
-    section.bulge *= math.GetDistance(section.start, section.end) / math.GetDistance(arc.start, arc.end);
-    return true;
+        ShapeRoundSection(math, arc, centre, forward, section);
+    else
+        // A flat arc counts as its chord: the section is as much flatter as it is shorter.
+        section.bulge *= math.GetDistance(section.start, section.end) / math.GetDistance(arc.start, arc.end);
 }
 
 /// The pieces of an edge cut at points that lie on it in order.
@@ -136,9 +132,8 @@ int CMathematics::GetSectionOfArc(TSPlaneEdge3D const & arc, TUVect3D & from, TU
     section.end = to;
     if (ComparePoints(from, arc.start, 1) && ComparePoints(to, arc.end, 1))
         section = arc;
-    else if (!(ComparePoints(from, arc.end, 1) && ComparePoints(to, arc.start, 1)) &&
-             !ShapeSection(*this, turned, fromAt, toAt, section))
-        return 0;
+    else if (!ComparePoints(from, arc.end, 1) || !ComparePoints(to, arc.start, 1))
+        ShapeSection(*this, turned, fromAt <= toAt, section);
     *result = section;
     return 1;
 }

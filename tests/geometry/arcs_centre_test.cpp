@@ -130,6 +130,16 @@ TEST(GetArcCentre, NegativeBulgeKeepsTheSideAndTurnsTheRadius)
     EXPECT_NEAR(radius, -5.0, 1e-14);
 }
 
+TEST(GetArcCentre, VectorAlongTheChordGivesTheMiddle)
+{
+    CMathematics math;
+    TUVect3D centre;
+    double radius;
+    EXPECT_EQ(math.GetArcCentre(At(0, 0), At(8, 0), At(3, 0), 0.5, centre, radius), 1);
+    ExpectNear(centre, At(4, 0), 1e-14);
+    EXPECT_NEAR(radius, 5.0, 1e-14);
+}
+
 TEST(GetArcCentre, AgreesWithTheCircleForAnyBulgeInAnyPlane)
 {
     CMathematics math;

@@ -229,6 +229,16 @@ TEST(Make3dArc, WithoutACentreItFailsUntouched)
     }
 }
 
+TEST(Make3dArc, AngleThatVanishesGivesOneUntouched)
+{
+    // With bulge 1e10 the ends are seen from the centre under 4e-10 radians.
+    TUVect3D vector = At(0, 1);
+    Polyline const polyline(At(0, 0), At(2, 0), vector, 1e10);
+    EXPECT_EQ(polyline.result, 1);
+    EXPECT_EQ(polyline.count, -7);
+    EXPECT_EQ(polyline.points, nullptr);
+}
+
 TEST(Make3dArc, PointsLieOnTheArcInEvenStepsForAnyBulgeInAnyPlane)
 {
     std::mt19937 random(3);

@@ -174,6 +174,7 @@ TEST(GetSectionOfArc, PlacesMustLieOnTheArc)
     EXPECT_EQ(Section(arc, At(0, 0), OnUnitCircle(10)).result, 0);
     EXPECT_EQ(Section(arc, At(kNaN, 0), OnUnitCircle(10)).result, 0);
     EXPECT_EQ(Section(arc, 1.0, 5.0).result, 0);
+    EXPECT_EQ(Section(arc, -1.0, 1.0).result, 0);
     CMathematics math;
     TUVect3D from = At(0, 0);
     TSPlaneEdge3D result = kOther;
