@@ -20,29 +20,6 @@ bool IsOnVertex(TUVect2D const & p, TUVect2D const & vertex, double tolerance)
     return Length(p - vertex) < tolerance;
 }
 
-/// Extents of an area's vertices in four directions, and the largest sagitta of its arcs.
-struct Extents
-{
-    static constexpr int kDirections = 4;
-    double min[kDirections] = {1e100, 1e100, 1e100, 1e100};
-    double max[kDirections] = {-1e100, -1e100, -1e100, -1e100};
-    double margin = 0.0;
-
-    void AddVertex(TUVect2D const & v)
-    {
-        double const values[kDirections] = {v.x, v.y, v.x + v.y, v.y - v.x};
-        for (int i = 0; i < kDirections; ++i) {
-            min[i] = std::min(min[i], values[i]);
-            max[i] = std::max(max[i], values[i]);
-        }
-    }
-
-    void AddArc(TUVect2D const & from, TUVect2D const & to, double bulge)
-    {
-        margin = std::max(margin, std::fabs(Length(to - from) * bulge / 2.0));
-    }
-};
-
 Extents ExtentsOf(AreaRecords records)
 {
     Extents extents;
@@ -53,7 +30,7 @@ Extents ExtentsOf(AreaRecords records)
     while (auto const side = sides.Next()) {
         extents.AddVertex(side->to);
         if (side->isArc)
-            extents.AddArc(side->from, side->to, side->bulge);
+            extents.AddArc(Length(side->to - side->from), side->bulge);
     }
     return extents;
 }
@@ -167,11 +144,5 @@ int CMathematics::IsPointInArea(TUVect2D p, CArray<TSPoint2DPlane, TSPoint2DPlan
 int CMathematics::ArePolygonsSeparated(CArray<TSPoint2DPlane, TSPoint2DPlane &> const * a,
                                        CArray<TSPoint2DPlane, TSPoint2DPlane &> const * b)
 {
-    Extents const first = ExtentsOf(a->View());
-    Extents const second = ExtentsOf(b->View());
-    double const margin = m_dOkoli + first.margin + second.margin;  // not widened for the slanted directions
-    for (int i = 0; i < Extents::kDirections; ++i)
-        if (first.max[i] + margin < second.min[i] || second.max[i] + margin < first.min[i])
-            return 1;
-    return 0;
+    return AreApart(ExtentsOf(a->View()), ExtentsOf(b->View()), m_dOkoli);
 }

@@ -112,6 +112,36 @@ inline SideWalk ClosingSideFirst(AreaRecords records)
     return {records, last > 0 ? last - 1 : records.size(), records.size()};
 }
 
+/// Extents of an area's vertices in four directions, and the largest sagitta of its arcs.
+struct Extents
+{
+    static constexpr int kDirections = 4;
+    double min[kDirections] = {1e100, 1e100, 1e100, 1e100};
+    double max[kDirections] = {-1e100, -1e100, -1e100, -1e100};
+    double margin = 0.0;
+
+    void AddVertex(TUVect2D const & v)
+    {
+        double const values[kDirections] = {v.x, v.y, v.x + v.y, v.y - v.x};
+        for (int i = 0; i < kDirections; ++i) {
+            min[i] = std::min(min[i], values[i]);
+            max[i] = std::max(max[i], values[i]);
+        }
+    }
+
+    void AddArc(double chord, double bulge) { margin = std::max(margin, std::fabs(chord * bulge / 2.0)); }
+};
+
+/// Whether areas of these extents can't touch.
+inline bool AreApart(Extents const & a, Extents const & b, double tolerance)
+{
+    double const margin = tolerance + a.margin + b.margin;  // not widened for the slanted directions
+    for (int i = 0; i < Extents::kDirections; ++i)
+        if (a.max[i] + margin < b.min[i] || b.max[i] + margin < a.min[i])
+            return true;
+    return false;
+}
+
 /// The z component of the cross product.
 inline double Cross(TUVect2D const & a, TUVect2D const & b)
 {

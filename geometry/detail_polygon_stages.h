@@ -1,13 +1,13 @@
 #ifndef KX7_GEOMETRY_DETAIL_POLYGON_STAGES_H
 #define KX7_GEOMETRY_DETAIL_POLYGON_STAGES_H
 
-// The stages of a polygon intersection up to the pieces of both boundaries. What cuts the elements is a
-// parameter (`Cutter`), one per area cut:
-//   int Cut(std::size_t i, TSelem const & e, IntervalArray & intervals)    flags of the i-th element
-//   int SectionOf(TSelem const & e, TSInterval const & stretch, TSelem & piece)
-//   void PointOf(TSelem const & e, double position, TUVect2D & p)
-
-#include <vector>
+// The stages of a polygon intersection up to the pieces of both boundaries. Two things are parameters:
+//   Elements   ForEach(visit) calls visit(index, element) in order until it returns false; the result says
+//              whether it never did
+//   Cutter     cuts the elements of one area by the other:
+//     int Cut(Index i, TSelem const & e, IntervalArray & intervals)    flags of an element
+//     int SectionOf(TSelem const & e, TSInterval const & stretch, TSelem & piece)
+//     void PointOf(TSelem const & e, double position, TUVect2D & p)
 
 #include "geometry/detail_element_cut.h"
 #include "geometry/detail_polygon_outlines.h"
@@ -62,34 +62,32 @@ int AddPieces(Cutter & cutter, TSelem const & e, IntervalArray const & intervals
 }
 
 /// Cuts all elements of one area by the other. 0 if a section can't be made.
-template <class Cutter, class Pieces>
-int CollectPieces(Cutter & cutter, std::vector<TSelem> const & elements, TSelem & work, ContactFlags & flags,
-                  Pieces & pieces)
+template <class Elements, class Cutter, class Pieces>
+bool CollectPieces(Cutter & cutter, Elements const & elements, TSelem & work, ContactFlags & flags,
+                   Pieces & pieces)
 {
     IntervalArray intervals;
-    for (std::size_t i = 0; i < elements.size(); ++i) {
-        int const cut = cutter.Cut(i, elements[i], intervals);
+    return elements.ForEach([&](auto i, TSelem const & e) {
+        int const cut = cutter.Cut(i, e, intervals);
         flags.Add(cut);
-        if (cut != 0 && !AddPieces(cutter, elements[i], intervals, work, pieces))
-            return 0;
-    }
-    return 1;
+        return cut == 0 || AddPieces(cutter, e, intervals, work, pieces) != 0;
+    });
 }
 
 /// One area as the stages see it.
-template <class Cutter>
+template <class Elements, class Cutter>
 struct CutArea
 {
     Area const & area;
-    std::vector<TSelem> const & elements;  ///< Its sides, the interior on their left.
-    Cutter & cutter;                       ///< Cuts its elements by the other area.
+    Elements const & elements;  ///< Its sides, the interior on their left.
+    Cutter & cutter;            ///< Cuts its elements by the other area.
 };
 
 /// From the elements of two areas that may touch to the result. `isFirstOfBInside` tells whether the first
 /// vertex of b lies inside a and not on its boundary.
-template <class Pieces, class Cutter, class IsFirstOfBInside>
-int IntersectElements(CutArea<Cutter> const & a, CutArea<Cutter> const & b, Pieces & piecesOfA,
-                      Pieces & piecesOfB, IsFirstOfBInside const & isFirstOfBInside,
+template <class Pieces, class Elements, class Cutter, class IsFirstOfBInside>
+int IntersectElements(CutArea<Elements, Cutter> const & a, CutArea<Elements, Cutter> const & b,
+                      Pieces & piecesOfA, Pieces & piecesOfB, IsFirstOfBInside const & isFirstOfBInside,
                       GeneralSetArray *& result)
 {
     TSelem work{};

@@ -12,27 +12,52 @@ TSelem Reversed(TSelem const & e)
 }
 }  // namespace
 
+<<<<<<< HEAD
 std::vector<TSelem> OrientedElements(CMathematics & math, Area const & area)
+=======
+/// The sides of an area with its interior on their left; sides without length are left out.
+class PlainElements
+>>>>>>> a00e69f (Put an index in front of the polygon intersection, with the results of the plain method)
 {
-    std::vector<TSelem> elements;
-    elements.reserve(static_cast<std::size_t>(area.GetSize()));
-    SideWalk sides = ClosedSides(area.View());
-    while (auto const side = sides.Next())
-        if (!math.ComparePoints(side->from, side->to, 1))
-            elements.push_back(ElementOf(*side));
-    if (!(math.GetAreaSurface(&area) > 0.0)) {
-        std::reverse(elements.begin(), elements.end());
-        std::transform(elements.begin(), elements.end(), elements.begin(), Reversed);
+  public:
+    PlainElements(CMathematics & math, Area const & area)
+    {
+        m_elements.reserve(static_cast<std::size_t>(area.GetSize()));
+        SideWalk sides = ClosedSides(area.View());
+        while (auto const side = sides.Next())
+            if (!math.ComparePoints(side->from, side->to, 1))
+                m_elements.push_back(ElementOf(*side));
+        if (!(math.GetAreaSurface(&area) > 0.0)) {
+            std::reverse(m_elements.begin(), m_elements.end());
+            std::transform(m_elements.begin(), m_elements.end(), m_elements.begin(), Reversed);
+        }
     }
+<<<<<<< HEAD
     return elements;
 }
+=======
+
+    template <class Visit>
+    bool ForEach(Visit const & visit) const
+    {
+        for (std::size_t i = 0; i < m_elements.size(); ++i)
+            if (!visit(i, m_elements[i]))
+                return false;
+        return true;
+    }
+
+  private:
+    std::vector<TSelem> m_elements;
+};
+}  // namespace
+>>>>>>> a00e69f (Put an index in front of the polygon intersection, with the results of the plain method)
 
 int PolygonIntersectionPlain(CMathematics & math, Area const & a, Area const & b, GeneralSetArray *& result)
 {
     if (math.ArePolygonsSeparated(&a, &b))
         return kNoCommonPart;
-    std::vector<TSelem> const elementsOfA = OrientedElements(math, a);
-    std::vector<TSelem> const elementsOfB = OrientedElements(math, b);
+    PlainElements const elementsOfA(math, a);
+    PlainElements const elementsOfB(math, b);
     PlainCutter cutterOfA(math, b);
     PlainCutter cutterOfB(math, a);
     PlainPieces piecesOfA(math);
@@ -42,8 +67,7 @@ int PolygonIntersectionPlain(CMathematics & math, Area const & a, Area const & b
         return !b.IsEmpty() && math.IsPointInArea(VertexOf(b[0]), &a, 0, pointClass) &&
                pointClass == kPointInside;
     };
-    return IntersectElements<PlainPieces, PlainCutter>({a, elementsOfA, cutterOfA},
-                                                       {b, elementsOfB, cutterOfB}, piecesOfA, piecesOfB,
-                                                       isFirstOfBInside, result);
+    return IntersectElements(CutArea{a, elementsOfA, cutterOfA}, CutArea{b, elementsOfB, cutterOfB},
+                             piecesOfA, piecesOfB, isFirstOfBInside, result);
 }
 }  // namespace detail

@@ -1,0 +1,175 @@
+#include "geometry/polygon_boxes.h"
+
+#include "geometry/arcs_course.h"
+
+namespace detail {
+namespace {
+/// An unlimited box; finite, so that its sums and differences stay numbers.
+constexpr double kEverywhere = 1e200;
+
+/// Chords up to this length may have no direction for VectorProduct; twice its limit.
+constexpr double kShortChord = 2e-7;
+
+/// The box of an arc is the square round the points on the apex side of its chord up to `slack` beside its
+/// circle. With half chord h and radius R these lie no further from the chord's middle than
+/// sqrt(h^2 + 2 R slack + slack^2), for more than a half circle than sagitta + slack.
+PlaneBox BoxOfArc(TSelem const & arc, PlaneScale const & scale)
+{
+    if (MayBeFlat(arc))
+        return {-kEverywhere, -kEverywhere, kEverywhere, kEverywhere};
+    double const x = arc.end.x - arc.start.x;
+    double const y = arc.end.y - arc.start.y;
+    double const bulge = std::fabs(arc.bulge);
+    double const halfChord = std::sqrt(x * x + y * y) / 2.0;
+    double const radius = halfChord * (1.0 + bulge * bulge) / (2.0 * bulge);
+    double const slack = CircleSlack(arc, radius, scale);
+    double reach = bulge * halfChord + slack;
+    if (bulge <= 1.0) {
+        // A point up to `noise` on the wrong side of the chord may count as on its apex side.
+        double const noise = 1e-13 * (radius + scale.size);
+        reach = std::sqrt(halfChord * halfChord + 2.0 * radius * (slack + noise) + slack * slack);
+    }
+    reach += scale.Margin();
+    double const middleX = arc.start.x + x / 2.0;
+    double const middleY = arc.start.y + y / 2.0;
+    return {middleX - reach, middleY - reach, middleX + reach, middleY + reach};
+}
+
+PlaneBox BoxOfSide(TSelem const & side, PlaneScale const & scale)
+{
+    if (side.type == EDGE_ARC)
+        return BoxOfArc(side, scale);
+    double const margin = scale.Margin();
+    return {std::min(side.start.x, side.end.x) - margin, std::min(side.start.y, side.end.y) - margin,
+            std::max(side.start.x, side.end.x) + margin, std::max(side.start.y, side.end.y) + margin};
+}
+
+/// Counts the turns of an outline round a point: the times its direction angle, seen from the point, passes
+/// the downward direction, where DirectionAngle jumps. Runs of sides that the point lies outside of are
+/// counted by their ends.
+class TurnCount
+{
+  public:
+    TurnCount(CMathematics & math, PolygonSides const & sides, SideBoxes const & boxes, TUVect2D const & p)
+        : m_math(math), m_sides(sides), m_boxes(boxes), m_p(p)
+    {
+    }
+
+    int Class()
+    {
+        if (!Visit(m_boxes.Shape().Root()))
+            return kPointOnEdge;
+        return m_turns == 0 ? kPointOutside : kPointInside;
+    }
+
+  private:
+    bool IsLeft(TUVect2D const & v) const { return SnappedDifference(v.x, m_p.x) < 0.0; }
+
+    /// False if the point lies on one of the sides.
+    bool Visit(TreeNode node)
+    {
+        PlaneBox const & box = m_boxes[m_boxes.Shape().Place(node)];
+        if (m_p.x < box.minX || m_p.x > box.maxX || m_p.y < box.minY)
+            return true;
+        if (m_p.y > box.maxY) {
+            auto const [first, end] = m_boxes.Shape().Leaves(node);
+            PassBelow(m_sides.Sides()[first].start, m_sides.Sides()[end - 1].end);
+            return true;
+        }
+        if (node.level == 0)
+            return VisitSide(m_sides.Sides()[node.index]);
+        auto const [first, end] = m_boxes.Shape().Children(node);
+        for (std::uint32_t i = first; i < end; ++i)
+            if (!Visit({node.level - 1, i}))
+                return false;
+        return true;
+    }
+
+    void PassBelow(TUVect2D const & from, TUVect2D const & to)
+    {
+        m_turns += static_cast<int>(IsLeft(from)) - static_cast<int>(IsLeft(to));
+    }
+
+    bool VisitSide(TSelem const & side)
+    {
+        double const tolerance = m_math.GetOkoli();
+        if (Length(m_p - side.start) < tolerance || Length(m_p - side.end) < tolerance)
+            return false;
+        if (side.type == EDGE_ARC)
+            return VisitArc(side);
+        if (IsPointOnStraightSide(m_p, side.start, side.end, tolerance))
+            return false;
+        bool const fromLeft = IsLeft(side.start);
+        if (fromLeft != IsLeft(side.end)) {
+            double const cross =
+                (side.start.x - m_p.x) * (side.end.y - m_p.y) - (side.start.y - m_p.y) * (side.end.x - m_p.x);
+            bool const passesBelow = fromLeft ? cross > 0.0 : cross < 0.0;
+            if (passesBelow)
+                PassBelow(side.start, side.end);
+        }
+        return true;
+    }
+
+    bool VisitArc(TSelem const & arc)
+    {
+        if (m_math.IsPointOnArc(m_p, arc.start, arc.end, arc.bulge))
+            return false;
+        double const from = DirectionAngle(arc.start - m_p);
+        double const to = DirectionAngle(arc.end - m_p);
+        double turn = TurnBetween(from, to);
+        TUVect2D centre{};
+        TUVect2D toApex{};
+        double radius = 0.0;
+        double absBulge = 0.0;
+        if (m_math.GetArcCentreVectorBulge(arc.start, arc.end, arc.bulge, centre, radius, toApex, absBulge))
+            turn = ArcTurn(m_p, {arc.start, arc.end, arc.bulge, true}, centre, radius, toApex, turn);
+        m_turns += static_cast<int>(std::lround((turn - (to - from)) / (2.0 * std::numbers::pi)));
+        return true;
+    }
+
+    CMathematics & m_math;
+    PolygonSides const & m_sides;
+    SideBoxes const & m_boxes;
+    TUVect2D m_p;
+    int m_turns = 0;
+};
+}  // namespace
+
+TreeShape::TreeShape(std::size_t leaves) : m_levels(0)
+{
+    m_first[0] = 0;
+    std::size_t count = leaves;
+    do {
+        m_first[m_levels + 1] = m_first[m_levels] + count;
+        ++m_levels;
+        count = count > 1 ? (count + kFanOut - 1) / kFanOut : 0;
+    } while (count > 0);
+}
+
+bool MayBeFlat(TSelem const & arc)
+{
+    double const x = arc.end.x - arc.start.x;
+    double const y = arc.end.y - arc.start.y;
+    return std::fabs(arc.bulge) < kFlatBulge * (1.0 + 1e-9) || x * x + y * y < kShortChord * kShortChord;
+}
+
+double CircleSlack(TSelem const & arc, double radius, PlaneScale const & scale)
+{
+    double const b = std::fabs(arc.bulge);
+    double const sagitta = radius * (2.0 * b * b / (1.0 + b * b));
+    return std::max(sagitta / 4.0, scale.Margin() + 1e-13 * radius);
+}
+
+SideBoxes::SideBoxes(PolygonSides const & sides, PlaneScale const & scale, std::pmr::memory_resource & memory)
+    : m_shape(sides.Sides().size()), m_boxes(m_shape.Size(), &memory)
+{
+    std::transform(sides.Sides().begin(), sides.Sides().end(), m_boxes.begin(),
+                   [&scale](TSelem const & side) { return BoxOfSide(side, scale); });
+    FillUpward(m_shape, m_boxes);
+}
+
+int ClassOfPoint(CMathematics & math, PolygonSides const & sides, SideBoxes const & boxes, TUVect2D const & p)
+{
+    return TurnCount(math, sides, boxes, p).Class();
+}
+}  // namespace detail
