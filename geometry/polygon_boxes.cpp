@@ -69,9 +69,9 @@ class TurnCount
     bool Visit(TreeNode node)
     {
         PlaneBox const & box = m_boxes[m_boxes.Shape().Place(node)];
-        if (m_p.x < box.minX || m_p.x > box.maxX || m_p.y < box.minY)
+        if (m_p.x < box.lowX || m_p.x > box.highX || m_p.y < box.lowY)
             return true;
-        if (m_p.y > box.maxY) {
+        if (m_p.y > box.highY) {
             auto const [first, end] = m_boxes.Shape().Leaves(node);
             PassBelow(m_sides.Sides()[first].start, m_sides.Sides()[end - 1].end);
             return true;

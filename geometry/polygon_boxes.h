@@ -10,27 +10,10 @@
 // arcs, which meet what they don't meet, have boxes without end. Circles that nearly fall together are left
 // out of the promise; see polygon_circles.h.
 
+#include "geometry/box_tree.h"
 #include "geometry/polygon_sides.h"
 
 namespace detail {
-struct PlaneBox
-{
-    double minX, minY, maxX, maxY;
-
-    bool Overlaps(PlaneBox const & other) const
-    {
-        return minX <= other.maxX && other.minX <= maxX && minY <= other.maxY && other.minY <= maxY;
-    }
-
-    void Add(PlaneBox const & other)
-    {
-        minX = std::min(minX, other.minX);
-        minY = std::min(minY, other.minY);
-        maxX = std::max(maxX, other.maxX);
-        maxY = std::max(maxY, other.maxY);
-    }
-};
-
 /// A node of a tree: level 0 are the leaves.
 struct TreeNode
 {

@@ -71,13 +71,13 @@ bool MayTouchBesideBoxes(CircleBounds const & a, CircleBounds const & b, PlaneSc
 {
     PlaneBox const & p = a.centres;
     PlaneBox const & q = b.centres;
-    double const least = std::hypot(Gap(p.minX, p.maxX, q.minX, q.maxX), Gap(p.minY, p.maxY, q.minY, q.maxY));
+    double const least = std::hypot(Gap(p.lowX, p.highX, q.lowX, q.highX), Gap(p.lowY, p.highY, q.lowY, q.highY));
     double const radius = std::max(a.maxRadius, b.maxRadius);
     if (least * std::min(a.minSlack, b.minSlack) > 2.0 * radius * scale.tolerance)
         return false;
     double const noise = 1e-12 * (radius + scale.size);
     double const most =
-        std::hypot(Span(p.minX, p.maxX, q.minX, q.maxX), Span(p.minY, p.maxY, q.minY, q.maxY));
+        std::hypot(Span(p.lowX, p.highX, q.lowX, q.highX), Span(p.lowY, p.highY, q.lowY, q.highY));
     if (most + noise < scale.tolerance)  // one centre: told apart by the radii, or one circle
         return false;
     double const margin = 4.0 * scale.tolerance + noise;

@@ -36,7 +36,7 @@ Contacts::Contacts(CMathematics & math, PolygonSides const & a, SideBoxes const 
     if (a.HasArcs() && b.HasArcs())
         FindNearlyEqualCircles(math, a, b, scale, memory, pairs);
     bool const mayRepeat = !pairs.empty();
-    auto const mayMeet = [&](std::size_t i, std::size_t j) { return boxesOfA[i].Overlaps(boxesOfB[j]); };
+    auto const mayMeet = [&](std::size_t i, std::size_t j) { return boxesOfA[i].Meets(boxesOfB[j]); };
     auto const found = [&](std::uint32_t i, std::uint32_t j) { pairs.emplace_back(i, j); };
     PairSearch(boxesOfA.Shape(), boxesOfB.Shape(), mayMeet, found)
         .Search(boxesOfA.Shape().Root(), boxesOfB.Shape().Root());

@@ -10,32 +10,11 @@ TSelem Reversed(TSelem const & e)
 {
     return {e.type, e.mark, e.end, e.start, e.type == EDGE_ARC ? -e.bulge : 0.0};
 }
-}  // namespace
 
-<<<<<<< HEAD
-std::vector<TSelem> OrientedElements(CMathematics & math, Area const & area)
-=======
-/// The sides of an area with its interior on their left; sides without length are left out.
 class PlainElements
->>>>>>> a00e69f (Put an index in front of the polygon intersection, with the results of the plain method)
 {
   public:
-    PlainElements(CMathematics & math, Area const & area)
-    {
-        m_elements.reserve(static_cast<std::size_t>(area.GetSize()));
-        SideWalk sides = ClosedSides(area.View());
-        while (auto const side = sides.Next())
-            if (!math.ComparePoints(side->from, side->to, 1))
-                m_elements.push_back(ElementOf(*side));
-        if (!(math.GetAreaSurface(&area) > 0.0)) {
-            std::reverse(m_elements.begin(), m_elements.end());
-            std::transform(m_elements.begin(), m_elements.end(), m_elements.begin(), Reversed);
-        }
-    }
-<<<<<<< HEAD
-    return elements;
-}
-=======
+    PlainElements(CMathematics & math, Area const & area) : m_elements(OrientedElements(math, area)) {}
 
     template <class Visit>
     bool ForEach(Visit const & visit) const
@@ -50,7 +29,21 @@ class PlainElements
     std::vector<TSelem> m_elements;
 };
 }  // namespace
->>>>>>> a00e69f (Put an index in front of the polygon intersection, with the results of the plain method)
+
+std::vector<TSelem> OrientedElements(CMathematics & math, Area const & area)
+{
+    std::vector<TSelem> elements;
+    elements.reserve(static_cast<std::size_t>(area.GetSize()));
+    SideWalk sides = ClosedSides(area.View());
+    while (auto const side = sides.Next())
+        if (!math.ComparePoints(side->from, side->to, 1))
+            elements.push_back(ElementOf(*side));
+    if (!(math.GetAreaSurface(&area) > 0.0)) {
+        std::reverse(elements.begin(), elements.end());
+        std::transform(elements.begin(), elements.end(), elements.begin(), Reversed);
+    }
+    return elements;
+}
 
 int PolygonIntersectionPlain(CMathematics & math, Area const & a, Area const & b, GeneralSetArray *& result)
 {
