@@ -38,6 +38,9 @@
 #include "geometry/vo_outline_box_2d.h"
 #include "geometry/vo_polygon.h"
 
+#include "units/base_units.h"
+#include "units/units.h"
+
 #include "drawing/dim_line.h"
 
 #include "views2d/rect2d_object.h"
