@@ -11,6 +11,7 @@
 #include "platform/base/exception.h"
 #include "platform/base/extension_module.h"
 #include "platform/base/file.h"
+#include "platform/base/file_choice.h"
 #include "platform/base/gdi_types.h"
 #include "platform/base/keyboard.h"
 #include "platform/base/message_box.h"
@@ -21,6 +22,7 @@
 #include "platform/base/string.h"
 #include "platform/base/system_information.h"
 #include "platform/base/time.h"
+#include "platform/base/wait_cursor.h"
 
 #include "platform/device/dc.h"
 #include "platform/device/gdi.h"
@@ -30,7 +32,9 @@
 
 #include "foundation/basic_dll_storage.h"
 #include "foundation/runtime_parameters.h"
+#include "foundation/sound_player.h"
 #include "foundation/stop_action.h"
+#include "foundation/vard_message.h"
 #include "foundation/vard_string.h"
 
 #include "geometry/mathematics.h"
@@ -44,5 +48,11 @@
 #include "drawing/dim_line.h"
 
 #include "views2d/rect2d_object.h"
+
+#include "dxf/dxf_block_basic.h"
+#include "dxf/dxf_in_basic.h"
+#include "dxf/dxf_out_basic.h"
+#include "dxf/dxf_status.h"
+#include "dxf/layer_choice.h"
 
 #endif
