@@ -57,7 +57,9 @@ class KX7_API CVOPolygon
     int ArePolygonsSeparated(CArray<TSPoint2DPlane, TSPoint2DPlane &> * a,
                              CArray<TSPoint2DPlane, TSPoint2DPlane &> * b) const;
 
-    /// The part of a triangle (four vertices, the last repeats the first) in the polygon.
+    /// The part of a triangle (four vertices, the last repeats the first) in the polygon. The triangle has to
+    /// run counter-clockwise: of a clockwise one the outlines mean nothing, since its sides aren't turned
+    /// round.
     ///
     /// 0  no common area, `result` untouched; also for a polygon inside the triangle that doesn't touch its
     ///    sides, and where a piece can't be made.
