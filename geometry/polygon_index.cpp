@@ -20,7 +20,7 @@ constexpr double kLargestBulge = 1e4;
 constexpr double kShortestChordSquare = 1e-12;  // of an arc and of a triangle's side: well above what the
                                                 // kernel takes for no direction
 constexpr std::size_t kCellsPerSide = 32;
-constexpr std::size_t kFewestCells = 4096;
+constexpr std::size_t kFewestCells = 16384;
 constexpr std::size_t kMostCells = 65536;
 
 double Square(TUVect2D const & a, TUVect2D const & b)
@@ -54,24 +54,31 @@ TUVect2D MiddleOf(AreaSide const & side)
     return {{(side.from.x + side.to.x) / 2.0, (side.from.y + side.to.y) / 2.0}};
 }
 
-/// The box of a side and, for an arc, its chord.
-PlaneBox BoxOf(IndexedSide const & indexed)
+/// A rectangle that holds a side and, for an arc, its chord; for a straight side one without breadth.
+std::array<TUVect2D, 4> HullOf(IndexedSide const & indexed)
 {
     AreaSide const & side = indexed.side;
-    PlaneBox box;
-    box.Add(side.from.x, side.from.y);
-    box.Add(side.to.x, side.to.y);
     if (!side.isArc)
-        return box;
+        return {side.from, side.to, side.to, side.from};
     if (std::fabs(side.bulge) > 1.0) {
-        box.Add(indexed.centre.x - indexed.radius, indexed.centre.y - indexed.radius);
-        box.Add(indexed.centre.x + indexed.radius, indexed.centre.y + indexed.radius);
-        return box;
+        double const r = indexed.radius;
+        TUVect2D const & c = indexed.centre;
+        return {TUVect2D{{c.x - r, c.y - r}}, TUVect2D{{c.x + r, c.y - r}}, TUVect2D{{c.x + r, c.y + r}},
+                TUVect2D{{c.x - r, c.y + r}}};
     }
     // Up to a half circle an arc stands on its chord within a rectangle of the sagitta's height.
     double const sagitta = std::sqrt(Square(side.from, side.to)) / 2.0 * std::fabs(side.bulge);
-    box.Add(side.from.x + sagitta * indexed.toApex.x, side.from.y + sagitta * indexed.toApex.y);
-    box.Add(side.to.x + sagitta * indexed.toApex.x, side.to.y + sagitta * indexed.toApex.y);
+    double const dx = sagitta * indexed.toApex.x;
+    double const dy = sagitta * indexed.toApex.y;
+    return {side.from, side.to, TUVect2D{{side.to.x + dx, side.to.y + dy}},
+            TUVect2D{{side.from.x + dx, side.from.y + dy}}};
+}
+
+PlaneBox BoxOf(std::array<TUVect2D, 4> const & corners)
+{
+    PlaneBox box;
+    for (TUVect2D const & corner : corners)
+        box.Add(corner.x, corner.y);
     return box;
 }
 
@@ -114,7 +121,7 @@ bool PolygonIndex::ReadSides(CMathematics & math, Area const & area)
         if (!math.ComparePoints(side->from, side->to, 1))
             indexed.element = elements++;
         m_sides.push_back(indexed);
-        m_reach.Add(BoxOf(indexed));
+        m_reach.Add(BoxOf(HullOf(indexed)));
     }
     // The elements of a clockwise polygon run against its sides.
     if (!(math.GetAreaSurface(&area) > 0.0))
@@ -153,8 +160,11 @@ void PolygonIndex::BuildTree()
 {
     std::vector<PlaneBox> boxes;
     boxes.reserve(m_sides.size());
-    for (IndexedSide const & indexed : m_sides)
-        boxes.push_back(BoxOf(indexed).Grown(indexed.slack));
+    for (IndexedSide const & indexed : m_sides) {
+        std::array<TUVect2D, 4> const hull = HullOf(indexed);
+        boxes.push_back(BoxOf(hull).Grown(indexed.slack));
+        m_hulls.emplace_back(hull);
+    }
     m_tree = BoxTree(boxes);
 }
 
@@ -210,8 +220,20 @@ TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3]) const
         case PolygonGrid::Answer::kOutside:
             return TrianglePlace::kOutside;
         default:
-            return TrianglePlace::kUndecided;
+            return PlaceBySides(box, corners);
     }
+}
+
+TrianglePlace PolygonIndex::PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3]) const
+{
+    bool isClear = true;
+    ForEachNear(box, TriangleFigure({corners[0], corners[1], corners[2]}), [&](std::size_t) {
+        isClear = false;
+        return false;
+    });
+    if (!isClear)
+        return TrianglePlace::kUndecided;
+    return WindingNumber(corners[0]) != 0 ? TrianglePlace::kInside : TrianglePlace::kOutside;
 }
 
 int PolygonIndex::ClassOf(CMathematics & math, TUVect2D const & p) const

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "geometry/box_tree.h"
+#include "geometry/convex_separation.h"
 #include "geometry/detail_areas.h"
 #include "geometry/mathematics.h"
 #include "geometry/polygon_grid.h"
@@ -51,7 +52,7 @@ class PolygonIndex
     /// Whether the index holds for the kernel's tolerance of the moment.
     bool Serves(CMathematics & math) const { return math.GetOkoli() <= m_okoli; }
 
-    /// Where a triangle lies, if that can be told at once. An unserved one has to be taken the plain way.
+    /// Where a triangle lies, if it is clear of all sides. An unserved one has to be taken the plain way.
     TrianglePlace PlaceOf(TUVect2D const (&corners)[3]) const;
 
     /// The class of `p` as by CMathematics::IsPointInArea, within the range served.
@@ -60,12 +61,13 @@ class PolygonIndex
     /// Whether a polygon without arcs turns round `p`, as the sum of its turns tells it.
     bool TurnsRound(TUVect2D const & p) const { return WindingNumber(p) != 0; }
 
-    /// Calls `visit` with the ordinals of the sides that may have something in common with what lies in
-    /// `box`, in order, until it gives false.
-    template <class Visit>
-    void ForEachNear(PlaneBox const & box, Visit const & visit) const
+    /// Calls `visit` with the ordinals of the sides that may have something in common with a figure in `box`,
+    /// in order, until it gives false.
+    template <class Figure, class Visit>
+    void ForEachNear(PlaneBox const & box, Figure const & figure, Visit const & visit) const
     {
-        m_tree.ForEach([&box](PlaneBox const & sides) { return sides.Meets(box); }, visit);
+        m_tree.ForEach([&box](PlaneBox const & sides) { return sides.Meets(box); },
+                       [&](std::size_t ordinal) { return IsClearOf(ordinal, figure) || visit(ordinal); });
     }
 
     IndexedSide const & Side(std::size_t ordinal) const { return m_sides[ordinal]; }
@@ -78,12 +80,22 @@ class PolygonIndex
     void BuildTree();
     void BuildGrid(CMathematics & math);
     bool IsNear(PlaneBox const & box) const;
+
+    template <class Figure>
+    bool IsClearOf(std::size_t ordinal, Figure const & figure) const
+    {
+        double const slack = m_sides[ordinal].slack;
+        return m_hulls[ordinal].SeparatesFrom(figure, slack) || figure.SeparatesFrom(m_hulls[ordinal], slack);
+    }
+
     bool IsClearOfAll(PlaneBox const & box) const;
+    TrianglePlace PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3]) const;
     std::optional<int> ClassOnBoundary(CMathematics & math, TUVect2D const & p) const;
     int WindingNumber(TUVect2D const & p) const;
     int TurnsOf(std::size_t ordinal, TUVect2D const & p) const;
 
     std::vector<IndexedSide> m_sides;
+    std::vector<RectangleFigure> m_hulls;  // each holds a side, and the chord of an arc
     BoxTree m_tree;
     PolygonGrid m_grid;
     PlaneBox m_reach;

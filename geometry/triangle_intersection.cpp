@@ -75,7 +75,7 @@ int TriangleIntersection::CutSide(TSelem const & side)
     IndexedCutKernel kernel(m_math, m_points, *m_index);
     ElementCut<IndexedCutKernel> cut(kernel, side, m_math.GetOkoli(), m_work.contacts, m_work.intervals);
     int settled = 0;
-    m_index->ForEachNear(BoxOf(side), [&](std::size_t ordinal) {
+    m_index->ForEachNear(BoxOf(side), SegmentFigure({side.start, side.end}), [&](std::size_t ordinal) {
         AreaSide const & other = m_index->Side(ordinal).side;
         if (!kernel.Same(other.from, other.to))
             settled = cut.Meet(ElementOf(other), static_cast<int>(ordinal));
@@ -110,10 +110,13 @@ void TriangleIntersection::FindNearElements()
         std::iota(m_work.near.begin(), m_work.near.end(), std::size_t{0});
         return;
     }
+    std::array<TUVect2D, 3> corners;
     PlaneBox box;
-    for (int i = 0; i < 3; ++i)
-        box.Add((*m_triangle)[i].x, (*m_triangle)[i].y);
-    m_index->ForEachNear(box, [&](std::size_t ordinal) {
+    for (int i = 0; i < 3; ++i) {
+        TUVect2D const & corner = corners[static_cast<std::size_t>(i)] = VertexOf((*m_triangle)[i]);
+        box.Add(corner.x, corner.y);
+    }
+    m_index->ForEachNear(box, TriangleFigure(corners), [&](std::size_t ordinal) {
         int const element = m_index->Side(ordinal).element;
         if (element >= 0)
             m_work.near.push_back(static_cast<std::size_t>(element));
