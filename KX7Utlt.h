@@ -37,7 +37,10 @@
 #include "foundation/vard_message.h"
 #include "foundation/vard_string.h"
 
+#include "geometry/face_3d.h"
+#include "geometry/mat_point.h"
 #include "geometry/mathematics.h"
+#include "geometry/object_3d.h"
 #include "geometry/records.h"
 #include "geometry/vo_outline_box_2d.h"
 #include "geometry/vo_polygon.h"

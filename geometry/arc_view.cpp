@@ -70,6 +70,8 @@ bool CrossesEdgeOn(CMathematics & math, ArcFrame const & arc, TUVect3D const & a
 {
     TUVect3D const origin = rays.PointOf(a);
     TUVect3D const normal = Unit(Cross(rays.PointOf(b) - origin, rays.ahead));
+    if (Dot(normal, normal) == 0.0)
+        return false;
     TUVect3D points[2];
     int count;
     int const code = math.ArcPlaneIntersectionParameters(arc.start, arc.end, arcVector, arc.bulge, origin,
