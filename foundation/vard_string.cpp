@@ -28,7 +28,7 @@ CVARDString::CVARDString(CVARDString const & other) : m_text(other.m_text) {}
 CVARDString::CVARDString(char const * text)
 {
     if (IsResourceId(text))
-        m_text.Empty();
+        m_text.LoadString(static_cast<UINT>(reinterpret_cast<std::uintptr_t>(text)));
     else
         m_text = text;
 }

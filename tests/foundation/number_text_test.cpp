@@ -6,7 +6,7 @@
 #include <string>
 
 #include "foundation/vard_string.h"
-#include "tests/decimal_comma_locale.h"
+#include "tests/support/decimal_comma_locale.h"
 
 namespace {
 constexpr double kInfinity = std::numeric_limits<double>::infinity();

@@ -3,12 +3,13 @@
 
 #include <gmock/gmock.h>
 
+#include <cstdint>
 #include <limits>
 #include <string>
 #include <type_traits>
 
 #include "platform/base/object.h"
-#include "tests/decimal_comma_locale.h"
+#include "tests/support/decimal_comma_locale.h"
 
 namespace {
 constexpr int kHighest = std::numeric_limits<int>::max();
@@ -63,6 +64,20 @@ TEST(VardString, NullPointersGiveEmptyText)
 {
     EXPECT_STREQ(CVARDString(static_cast<char const *>(nullptr)), "");
     EXPECT_STREQ(CVARDString(static_cast<unsigned short const *>(nullptr)), "");
+}
+
+TEST(VardString, SmallPointerIsTheIdOfAStringResource)
+{
+    EXPECT_STREQ(CVARDString(reinterpret_cast<char const *>(std::uintptr_t{55029})),
+                 "\xB0"
+                 "C");
+    EXPECT_STREQ(CVARDString(reinterpret_cast<char const *>(std::uintptr_t{55024})), "rad\ndeg\ngra");
+}
+
+TEST(VardString, UnknownResourceIdGivesEmptyText)
+{
+    EXPECT_STREQ(CVARDString(reinterpret_cast<char const *>(std::uintptr_t{1})), "");
+    EXPECT_STREQ(CVARDString(reinterpret_cast<char const *>(std::uintptr_t{0xFFFF})), "");
 }
 
 // U+0158 is 0xD8 in code page 1250, U+20AC is 0x80, U+3042 isn't in it.

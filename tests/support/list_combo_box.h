@@ -10,8 +10,9 @@
 
 #include "platform/base/combo_box.h"
 
-/// A combo box without a window: a plain list of texts with their data.
-class ListComboBox : public CComboBox
+/// A box (CComboBox or CListBox) without a window: a plain list of texts with their data.
+template <class Box>
+class ListBox : public Box
 {
   public:
     /// The box takes `count` items and answers each further one with `error`.
@@ -27,7 +28,7 @@ class ListComboBox : public CComboBox
     {
         m_labels.clear();
         m_data.clear();
-        m_selected = kError;
+        m_selected = CItemBox::kError;
     }
 
     int AddString(char const * text) override
@@ -45,7 +46,7 @@ class ListComboBox : public CComboBox
     int SetItemData(int index, std::uintptr_t data) override
     {
         if (!HasItem(index))
-            return kError;
+            return CItemBox::kError;
         m_data[static_cast<std::size_t>(index)] = data;
         return 0;
     }
@@ -59,7 +60,7 @@ class ListComboBox : public CComboBox
 
     int SetCurSel(int index) override
     {
-        m_selected = HasItem(index) ? index : kError;
+        m_selected = HasItem(index) ? index : CItemBox::kError;
         return m_selected;
     }
 
@@ -72,10 +73,13 @@ class ListComboBox : public CComboBox
 
     std::vector<std::string> m_labels;
     std::vector<std::uintptr_t> m_data;
-    int m_selected = kError;
+    int m_selected = CItemBox::kError;
     std::size_t m_room = std::numeric_limits<std::size_t>::max();
-    int m_error = kError;
+    int m_error = CItemBox::kError;
 };
+
+using ListComboBox = ListBox<CComboBox>;
+using ListListBox = ListBox<CListBox>;
 
 /// The same for a box that sorts its items.
 class SortingListComboBox : public ListComboBox

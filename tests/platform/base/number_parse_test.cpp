@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstddef>
 
-#include "tests/decimal_comma_locale.h"
+#include "tests/support/decimal_comma_locale.h"
 
 namespace {
 /// The value, and by `length` how many bytes were read.
