@@ -99,21 +99,21 @@ class KX7_API CVARDString
 
     // Records of a text, divided by a separator (vard_string_records.cpp).
 
-    /// `count` bytes from `first`; a negative `count` means up to the end. The object takes the result for any
-    /// in-place flag but 0.
+    /// `count` bytes from `first`; a negative `count` means up to the end. The object takes the result for
+    /// any in-place flag but 0.
     CVARDString Copy(int first, int count, int inPlace);
 
-    /// `count` records from the record `first` on, counted from 1, with the separators between them and none at
-    /// the end. Empty for a `first` that isn't there; a `count` past the end is cut. The object takes the result
-    /// for any in-place flag but 0.
+    /// `count` records from the record `first` on, counted from 1, with the separators between them and none
+    /// at the end. Empty for a `first` that isn't there; a `count` past the end is cut. The object takes the
+    /// result for any in-place flag but 0.
     CVARDString CopyLine(int first, int count, int inPlace, CString separator);
 
     /// The number of records: the separators, plus 1 if the text doesn't end in one. So an empty text has one
     /// record, and so has every text for an empty separator.
     int LineCnt(CString separator) const;
 
-    /// The record `n`, counted from 1; empty if `n` is beyond the number of lines. That number is deliberately
-    /// taken with the line end as separator, whatever `separator` is.
+    /// The record `n`, counted from 1; empty if `n` is beyond the number of lines. That number is
+    /// deliberately taken with the line end as separator, whatever `separator` is.
     CString GetSubString(int n, CString const & separator) const;
 
   protected:
