@@ -3,70 +3,23 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
 #include <memory>
 
+#include "byte_input.h"
 #include "geometry/mathematics.h"
 
+using namespace fuzz;
+
 namespace {
-/// Takes numbers from the input; zeros behind its end.
-class Input
+TSPlaneEdge3D TakeEdge(ByteInput & input)
 {
-  public:
-    Input(std::uint8_t const * data, std::size_t size) : m_data(data), m_left(size) {}
-
-    bool IsEmpty() const { return m_left == 0; }
-
-    std::uint8_t Byte()
-    {
-        if (m_left == 0)
-            return 0;
-        --m_left;
-        return *m_data++;
-    }
-
-    /// Mostly small round numbers, so that edges meet; sometimes any double.
-    double Number()
-    {
-        std::uint8_t const kind = Byte();
-        if (kind >= 16)
-            return (kind - 128) / 16.0;
-        double number = 0.0;
-        std::uint8_t bytes[sizeof number];
-        for (std::uint8_t & byte : bytes)
-            byte = Byte();
-        std::memcpy(&number, bytes, sizeof number);
-        return number;
-    }
-
-    TUVect3D Point()
-    {
-        double const x = Number();
-        double const y = Number();
-        return {{x, y, Byte() % 4 ? 0.0 : Number()}};
-    }
-
-    TSPlaneEdge3D Edge()
-    {
-        TSPlaneEdge3D edge;
-        edge.type = Byte() % 4;
-        edge.start = Point();
-        edge.end = Point();
-        edge.arcVector = Point();
-        edge.bulge = Number();
-        return edge;
-    }
-
-  private:
-    std::uint8_t const * m_data;
-    std::size_t m_left;
-};
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
+    TSPlaneEdge3D edge;
+    edge.type = input.Byte() % 4;
+    edge.start = input.Point();
+    edge.end = input.Point();
+    edge.arcVector = input.Point();
+    edge.bulge = input.Number();
+    return edge;
 }
 
 /// A set of edges handed out by the kernel.
@@ -179,13 +132,13 @@ void DrivePair(CMathematics & math, TSPlaneEdge3D & a, TSPlaneEdge3D & b)
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t size)
 {
-    Input input(data, size);
+    ByteInput input(data, size);
     CMathematics math;
     if (input.Byte() % 4 == 0)
         math.SetOkoli(input.Number());
     while (!input.IsEmpty()) {
-        TSPlaneEdge3D a = input.Edge();
-        TSPlaneEdge3D b = input.Byte() % 4 ? input.Edge() : a;
+        TSPlaneEdge3D a = TakeEdge(input);
+        TSPlaneEdge3D b = input.Byte() % 4 ? TakeEdge(input) : a;
         double const value = input.Number();
         TUVect3D from = input.Byte() % 2 ? b.start : input.Point();
         TUVect3D to = input.Byte() % 2 ? b.end : input.Point();

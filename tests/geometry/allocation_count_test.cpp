@@ -7,16 +7,17 @@
 #include <cstdlib>
 #include <new>
 
+#include "allocation_counter.h"
 #include "edge_samples.h"
 
 using namespace arc_samples;
 
-namespace {
-long allocationCount = 0;
+long g_allocationCount = 0;
 
+namespace {
 void * Allocate(std::size_t size)
 {
-    ++allocationCount;
+    ++g_allocationCount;
     return std::malloc(size ? size : 1);
 }
 
@@ -62,15 +63,6 @@ void operator delete[](void * memory, std::size_t) noexcept
 }
 
 namespace {
-/// The allocations that a call makes.
-template <typename Call>
-long AllocationsOf(Call call)
-{
-    long const before = allocationCount;
-    call();
-    return allocationCount - before;
-}
-
 TEST(Allocations, EdgeIntersectionAllocatesItsResultOnly)
 {
     CMathematics math;
