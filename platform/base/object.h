@@ -102,7 +102,7 @@ class KX7_API CObject
 
 #define DECLARE_SERIAL(className)                                                                         \
     DECLARE_DYNCREATE(className)                                                                          \
-    friend CArchive & operator>>(CArchive & archive, className *& object)                                 \
+    [[maybe_unused]] friend CArchive & operator>>(CArchive & archive, className *& object)                \
     {                                                                                                     \
         object =                                                                                          \
             static_cast<className *>(::detail::ReadObjectOfClass(archive, &className::class##className)); \

@@ -28,7 +28,7 @@ int IndexOf(std::size_t position)
 
 int SignOf(std::strong_ordering order)
 {
-    return order < 0 ? -1 : order > 0;
+    return std::is_lt(order) ? -1 : std::is_gt(order) ? 1 : 0;
 }
 }  // namespace
 
