@@ -83,6 +83,10 @@ struct CutArea
     Cutter & cutter;            ///< Cuts its elements by the other area.
 };
 
+// Spelled out for clang 14, which derives no guide for aggregates.
+template <class Elements, class Cutter>
+CutArea(Area const &, Elements const &, Cutter &) -> CutArea<Elements, Cutter>;
+
 /// From the elements of two areas that may touch to the result. `isFirstOfBInside` tells whether the first
 /// vertex of b lies inside a and not on its boundary.
 template <class Pieces, class Elements, class Cutter, class IsFirstOfBInside>
