@@ -90,9 +90,9 @@ bool TriangleIntersection::CutPolygon(ContactFlags & flags)
     TSelem piece{};
     m_work.polygonPieces.Clear();
     FindNearElements();
-    if (m_work.near.size() < static_cast<std::size_t>(m_elements.GetSize()))
+    if (m_work.nearElements.size() < static_cast<std::size_t>(m_elements.GetSize()))
         flags.Add(0);
-    for (std::size_t const i : m_work.near) {
+    for (std::size_t const i : m_work.nearElements) {
         TSelem const & element = m_elements[static_cast<int>(i)];
         int const cut = cutter.Cut(i, element, m_work.intervals);
         flags.Add(cut);
@@ -104,10 +104,10 @@ bool TriangleIntersection::CutPolygon(ContactFlags & flags)
 
 void TriangleIntersection::FindNearElements()
 {
-    m_work.near.clear();
+    m_work.nearElements.clear();
     if (!m_index) {
-        m_work.near.resize(static_cast<std::size_t>(m_elements.GetSize()));
-        std::iota(m_work.near.begin(), m_work.near.end(), std::size_t{0});
+        m_work.nearElements.resize(static_cast<std::size_t>(m_elements.GetSize()));
+        std::iota(m_work.nearElements.begin(), m_work.nearElements.end(), std::size_t{0});
         return;
     }
     std::array<TUVect2D, 3> corners;
@@ -119,12 +119,12 @@ void TriangleIntersection::FindNearElements()
     m_index->ForEachNear(box, TriangleFigure(corners), [&](std::size_t ordinal) {
         int const element = m_index->Side(ordinal).element;
         if (element >= 0)
-            m_work.near.push_back(static_cast<std::size_t>(element));
+            m_work.nearElements.push_back(static_cast<std::size_t>(element));
         return true;
     });
     // The elements of a clockwise polygon stand the other way round.
-    if (m_work.near.size() > 1 && m_work.near.front() > m_work.near.back())
-        std::reverse(m_work.near.begin(), m_work.near.end());
+    if (m_work.nearElements.size() > 1 && m_work.nearElements.front() > m_work.nearElements.back())
+        std::reverse(m_work.nearElements.begin(), m_work.nearElements.end());
 }
 
 bool TriangleIntersection::IsInside(TUVect2D const & p) const

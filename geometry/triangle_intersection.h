@@ -25,7 +25,7 @@ struct TriangleWork
     PlainPieces polygonPieces;
     IntervalArray intervals;
     std::vector<TSInterval> contacts;
-    std::vector<std::size_t> near;  // polygon elements that may touch the triangle
+    std::vector<std::size_t> nearElements;  // polygon elements that may touch the triangle
 };
 
 class TriangleIntersection

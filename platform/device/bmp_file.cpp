@@ -37,7 +37,7 @@ Bytes Headers(int width, int height, std::size_t pixelBytes)
     Append(bytes, 8 * kBytesPerPixel, 2);
     Append(bytes, 0, 4);
     Append(bytes, pixelBytes, 4);
-    Append(bytes, 0, 16);
+    bytes.resize(kHeaderBytes);  // resolution and colour counts stay 0
     return bytes;
 }
 }  // namespace
