@@ -25,6 +25,7 @@
 #include "platform/base/wait_cursor.h"
 
 #include "platform/device/dc.h"
+#include "platform/device/font_choice.h"
 #include "platform/device/gdi.h"
 #include "platform/device/gdi_objects.h"
 #include "platform/device/picture.h"
@@ -58,6 +59,9 @@
 #include "units/units.h"
 
 #include "drawing/dim_line.h"
+#include "drawing/double_rect.h"
+#include "drawing/draw.h"
+#include "drawing/vard_font.h"
 
 #include "views2d/rect2d_object.h"
 
