@@ -195,9 +195,12 @@ void MetafileReader::SelectStock(int object)
 
 void MetafileReader::Select(DWORD handle)
 {
-    if (handle & kStockFlag)
+    if (handle & kStockFlag) {
         SelectStock(static_cast<int>(handle & ~kStockFlag));
-    else if (auto const pen = m_pens.find(handle); pen != m_pens.end()) {
+        return;
+    }
+    m_selectedOnce.insert(handle);
+    if (auto const pen = m_pens.find(handle); pen != m_pens.end()) {
         m_state.pen = pen->second;
         m_pen = handle;
     } else if (auto const brush = m_brushes.find(handle); brush != m_brushes.end()) {
@@ -211,6 +214,7 @@ void MetafileReader::Select(DWORD handle)
 
 void MetafileReader::Delete(DWORD handle)
 {
+    m_selectedOnce.erase(handle);
     m_pens.erase(handle);
     m_brushes.erase(handle);
     m_fonts.erase(handle);

@@ -2,6 +2,7 @@
 #define KX7_PLATFORM_DEVICE_WIN32_METAFILE_READER_H
 
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,7 @@ class MetafileReader
     void Read(HENHMETAFILE metafile);
 
     int LeftSelected() const;
-    int LeftUndeleted() const { return static_cast<int>(m_pens.size() + m_brushes.size() + m_fonts.size()); }
+    int LeftUndeleted() const { return static_cast<int>(m_selectedOnce.size()); }
 
     std::vector<TSDrawnCall> m_calls;
 
@@ -42,6 +43,7 @@ class MetafileReader
     std::map<DWORD, LOGPEN> m_pens;
     std::map<DWORD, LOGBRUSH> m_brushes;
     std::map<DWORD, LOGFONT> m_fonts;
+    std::set<DWORD> m_selectedOnce;            ///< Objects that were selected and aren't deleted.
     DWORD m_pen = 0, m_brush = 0, m_font = 0;  ///< Selected handles; 0 for stock objects.
 };
 }  // namespace detail
