@@ -1,66 +1,11 @@
 #include <gtest/gtest.h>
 
-// Counts allocations of this program and of the library, which takes its operator new from the program; the
-// Windows library has one of its own, out of reach.
 #if !defined(_WIN32)
-
-#include <cstdlib>
-#include <new>
 
 #include "allocation_counter.h"
 #include "edge_samples.h"
 
 using namespace arc_samples;
-
-long g_allocationCount = 0;
-
-namespace {
-void * Allocate(std::size_t size)
-{
-    ++g_allocationCount;
-    return std::malloc(size ? size : 1);
-}
-
-void * AllocateOrThrow(std::size_t size)
-{
-    if (void * const memory = Allocate(size))
-        return memory;
-    throw std::bad_alloc();
-}
-}  // namespace
-
-void * operator new(std::size_t size)
-{
-    return AllocateOrThrow(size);
-}
-void * operator new[](std::size_t size)
-{
-    return AllocateOrThrow(size);
-}
-void * operator new(std::size_t size, std::nothrow_t const &) noexcept
-{
-    return Allocate(size);
-}
-void * operator new[](std::size_t size, std::nothrow_t const &) noexcept
-{
-    return Allocate(size);
-}
-void operator delete(void * memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void * memory) noexcept
-{
-    std::free(memory);
-}
-void operator delete(void * memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
-void operator delete[](void * memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace {
 TEST(Allocations, EdgeIntersectionAllocatesItsResultOnly)

@@ -1,4 +1,4 @@
-// The counter lives in allocation_count_test.cpp and reaches the library on these builds only.
+// The counter reaches the library on these builds only.
 #if !defined(_WIN32)
 
 #include "allocation_counter.h"
