@@ -135,11 +135,12 @@ bool PolygonIndex::AddSlack()
     m_size = std::max(m_reach.highX - m_reach.lowX, m_reach.highY - m_reach.lowY);
     for (double const coordinate : {m_reach.lowX, m_reach.lowY, m_reach.highX, m_reach.highY})
         m_largest = std::max(m_largest, std::fabs(coordinate));
-    if (!(m_okoli >= kSmallestToleranceShare * m_largest && m_size > m_okoli && m_okoli < kLargestCoordinate))
+    double const coordinates = m_largest + kServedSizes * m_size;
+    m_smallestOkoli = kSmallestToleranceShare * coordinates;
+    if (!(m_okoli >= m_smallestOkoli && m_size > m_okoli))
         return false;
 
     m_served = m_reach.Grown(kServedSizes * m_size);
-    double const coordinates = m_largest + kServedSizes * m_size;
     double const distance = kLargestDistance * m_size;
     double largestSlack = 0.0;
     for (IndexedSide & indexed : m_sides) {

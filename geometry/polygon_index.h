@@ -49,8 +49,12 @@ class PolygonIndex
 
     bool HasArcs() const { return m_hasArcs; }
 
-    /// Whether the index holds for the kernel's tolerance of the moment.
-    bool Serves(CMathematics & math) const { return math.GetOkoli() <= m_okoli; }
+    /// Whether the index holds for the kernel's tolerance of the moment. With one that is rounding against
+    /// the coordinates the kernel finds no place on its own sides.
+    bool Serves(CMathematics & math) const
+    {
+        return math.GetOkoli() <= m_okoli && math.GetOkoli() >= m_smallestOkoli;
+    }
 
     /// Where a triangle lies, if it is clear of all sides. An unserved one has to be taken the plain way.
     TrianglePlace PlaceOf(TUVect2D const (&corners)[3]) const;
@@ -99,8 +103,9 @@ class PolygonIndex
     BoxTree m_tree;
     PolygonGrid m_grid;
     PlaneBox m_reach;
-    PlaneBox m_served;  // triangles beyond it aren't served, but for those clear of the reach
-    double m_okoli = 0.0;
+    PlaneBox m_served;     // triangles beyond it aren't served, but for those clear of the reach
+    double m_okoli = 0.0;  // the kernel's tolerance when the index was made
+    double m_smallestOkoli = 0.0;
     double m_size = 0.0;     // larger extent of the polygon
     double m_largest = 0.0;  // largest coordinate, without sign
     double m_smallestRadius = 0.0;
