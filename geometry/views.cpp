@@ -5,6 +5,7 @@
 
 #include "geometry/mathematics.h"
 #include "geometry/snapped_vectors.h"
+#include "platform/base/rect.h"
 
 using namespace detail;
 
@@ -213,6 +214,15 @@ void CMathematics::GetWorld2DCoord(int originX, int originY, double scale, int x
     v = usable ? (static_cast<double>(originY) - y) / scale : 0.0;
 }
 
+void CMathematics::GetWorldWindowCorners(CPoint origin, CRect rect, int originX, int originY, double scale,
+                                         double & u1, double & v1, double & u2, double & v2)
+{
+    std::int64_t const width = std::int64_t{rect.right} - rect.left;
+    std::int64_t const height = std::int64_t{rect.bottom} - rect.top;
+    GetWorld2DCoord(originX, originY, scale, origin.x, ClampedToInt(origin.y + height), u1, v1);
+    GetWorld2DCoord(originX, originY, scale, ClampedToInt(origin.x + width), origin.y, u2, v2);
+}
+
 void CMathematics::GetCenterPoint(TUVect3D const & a, TUVect3D const & b, TUVect3D & result)
 {
     result = (a + b) * 0.5;
@@ -240,4 +250,9 @@ void CMathematics::SetViewParams(int originX, int originY, double (*const m)[3],
     m_iOriginY = originY;
     CopyMatrix(m, m_dViewMatrix);
     m_dScale = scale;
+}
+
+int CMathematics::ScissorTest(CRect rect, int x, int y)
+{
+    return x >= rect.left && x <= rect.right && y >= rect.top && y <= rect.bottom ? 1 : 0;
 }

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "geometry/mathematics.h"
+#include "platform/base/rect.h"
 
 namespace {
 constexpr double kPi = std::numbers::pi;
@@ -300,4 +301,44 @@ TEST(Midpoints, AreProjectedAfterHalving)
     mathematics.GetInt2DCenterPoint(10, 10, Identity(), 1.0, a, b, x, y);
     EXPECT_EQ(x, 13);
     EXPECT_EQ(y, 6);
+}
+
+TEST(GetWorldWindowCorners, GivesLowerLeftAndUpperRight)
+{
+    // A window of 40 by 20 pixels at (110, 190), 4 pixels a unit, the model origin at (100, 200).
+    CMathematics mathematics;
+    double u1 = 0.0;
+    double v1 = 0.0;
+    double u2 = 0.0;
+    double v2 = 0.0;
+    mathematics.GetWorldWindowCorners(CPoint(110, 190), CRect(5, 6, 45, 26), 100, 200, 4.0, u1, v1, u2, v2);
+    EXPECT_EQ(u1, 2.5);
+    EXPECT_EQ(v1, -2.5);
+    EXPECT_EQ(u2, 12.5);
+    EXPECT_EQ(v2, 2.5);
+}
+
+TEST(GetWorldWindowCorners, SizesBeyondAnIntAreCutOff)
+{
+    CMathematics mathematics;
+    double u1 = 0.0;
+    double v1 = 0.0;
+    double u2 = 0.0;
+    double v2 = 0.0;
+    CRect const endless(-2147483647, -2147483647, 2147483647, 2147483647);
+    mathematics.GetWorldWindowCorners(CPoint(1, 1), endless, 0, 0, 1.0, u1, v1, u2, v2);
+    EXPECT_EQ(u2, 2147483647.0);
+    EXPECT_EQ(v1, -2147483647.0);
+}
+
+TEST(ScissorTest, CountsAllFourBorders)
+{
+    CMathematics mathematics;
+    CRect const rect(10, 20, 30, 40);
+    EXPECT_EQ(mathematics.ScissorTest(rect, 10, 20), 1);
+    EXPECT_EQ(mathematics.ScissorTest(rect, 30, 40), 1);
+    EXPECT_EQ(mathematics.ScissorTest(rect, 9, 30), 0);
+    EXPECT_EQ(mathematics.ScissorTest(rect, 31, 30), 0);
+    EXPECT_EQ(mathematics.ScissorTest(rect, 20, 19), 0);
+    EXPECT_EQ(mathematics.ScissorTest(rect, 20, 41), 0);
 }
