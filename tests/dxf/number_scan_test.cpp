@@ -16,6 +16,8 @@
 
 #include "test_paths.h"
 
+using namespace std::string_view_literals;
+
 namespace {
 constexpr double kUntouched = -7.25;
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
@@ -193,7 +195,7 @@ std::string RandomText(std::mt19937 & random)
         case 3:
             return Join(random, "+-", 1) + Join(random, "0011xXpPaAfFeE.+-infnantyINFTY() ", 12);
         default:
-            return Join(random, std::string_view("\0\x01\t\n\r +-.0123456789eExXpPinfa\xff\x80", 34), 10);
+            return Join(random, "\0\x01\t\n\r +-.0123456789eExXpPinfa\xff\x80"sv, 10);
     }
 }
 
@@ -238,7 +240,7 @@ TEST(WordScan, AgreesWithTheLibraryOnRandomText)
 {
     std::mt19937 random(20260403);
     for (int i = 0; i < kRandomTexts; ++i) {
-        std::string const text = Join(random, std::string_view("ab\0 \t\r\n\v\f\xa0\xff", 11), 12);
+        std::string const text = Join(random, "ab\0 \t\r\n\v\f\xa0\xff"sv, 12);
         std::array<char, 8> expected{};
         std::sscanf(text.c_str(), "%7s", expected.data());
         std::array<char, 8> actual{};
