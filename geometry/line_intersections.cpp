@@ -31,9 +31,14 @@ struct LinePair
     double okoli;
 };
 
+/// Whether the distance is at most `okoli`.
 bool IsWithin(TUVect3D const & a, TUVect3D const & b, double okoli)
 {
-    return Length(a - b) <= okoli;
+    TUVect3D const difference = a - b;
+    // Spares the root for most: one coordinate alone is longer than that.
+    if (std::fabs(difference.x) > 2.0 * okoli || std::fabs(difference.y) > 2.0 * okoli)
+        return false;
+    return Length(difference) <= okoli;
 }
 
 /// 0 or 1 if `p` is one place with that end of a line, else `parameter`; the far end wins.

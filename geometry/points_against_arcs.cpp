@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 #include "geometry/arc_frame.h"
 #include "geometry/mathematics.h"
@@ -38,26 +39,23 @@ struct CirclePoints
 
 /// Hands out the points of the circle, those on the arc first, with their classes. Returns how many are on
 /// it.
-int HandOut(CMathematics & math, ArcFrame const & arc, CirclePoints const & circle, TUVect3D & first,
+int HandOut(CMathematics & math, ArcFrame const & arc, CirclePoints circle, TUVect3D & first,
             TUVect3D & second, int & class1, int & class2)
 {
-    TUVect3D * const outputs[] = {&first, &second};
-    int * const classes[] = {&class1, &class2};
-    class1 = class2 = 0;
-    int written = 0;
-    int onArc = 0;
-    for (int const wanted : {kOnElement, kOffElement}) {
-        for (int i = 0; i < circle.found; ++i) {
-            int const pointClass = ArcClass(ArcParameter(math, arc, circle.points[i]));
-            if (pointClass != wanted)
-                continue;
-            *outputs[written] = circle.points[i];
-            *classes[written] = pointClass;
-            onArc += pointClass == kOnElement ? 1 : 0;
-            ++written;
-        }
+    int classes[2] = {};
+    for (int i = 0; i < circle.found; ++i)
+        classes[i] = ArcClass(ArcParameter(math, arc, circle.points[i]));
+    if (classes[0] == kOffElement && classes[1] == kOnElement) {
+        std::swap(circle.points[0], circle.points[1]);
+        std::swap(classes[0], classes[1]);
     }
-    return onArc;
+    class1 = classes[0];
+    class2 = classes[1];
+    if (circle.found >= 1)
+        first = circle.points[0];
+    if (circle.found == 2)
+        second = circle.points[1];
+    return static_cast<int>(std::ranges::count(classes, kOnElement));
 }
 
 /// The places where the tangents from a point of the circle's plane touch it.
