@@ -24,7 +24,8 @@ Intersection IntersectPlain(CMathematics & math, Outline const & a, Outline cons
 
 bool SameBits(Outline const & a, Outline const & b)
 {
-    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(TSPoint2DPlane)) == 0;
+    return a.size() == b.size() &&
+           (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(TSPoint2DPlane)) == 0);
 }
 
 bool SameMembers(Sets const & a, Sets const & b)
