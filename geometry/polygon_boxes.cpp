@@ -10,29 +10,22 @@ constexpr double kEverywhere = 1e200;
 /// Chords up to this length may have no direction for VectorProduct; twice its limit.
 constexpr double kShortChord = 2e-7;
 
-/// The box of an arc is the square round the points on the apex side of its chord up to `slack` beside its
-/// circle. With half chord h and radius R these lie no further from the chord's middle than
-/// sqrt(h^2 + 2 R slack + slack^2), for more than a half circle than sagitta + slack.
+/// From this bulge on an arc's box goes round its whole circle, whose radius is about twice the half chord.
+constexpr double kRoundBulge = 0.25;
+
+/// The box of an arc is a square round the middle of its chord that holds what its reach tells. Where the
+/// whole circle isn't much larger than the arc, it is taken as a whole and three quarters of a radius more,
+/// so that the box holds any arc whose circle nearly falls together with this one.
 PlaneBox BoxOfArc(TSelem const & arc, PlaneScale const & scale)
 {
     if (MayBeFlat(arc))
         return {-kEverywhere, -kEverywhere, kEverywhere, kEverywhere};
-    double const x = arc.end.x - arc.start.x;
-    double const y = arc.end.y - arc.start.y;
+    ArcReach const of(arc, scale);
     double const bulge = std::fabs(arc.bulge);
-    double const halfChord = std::sqrt(x * x + y * y) / 2.0;
-    double const radius = halfChord * (1.0 + bulge * bulge) / (2.0 * bulge);
-    double const slack = CircleSlack(arc, radius, scale);
-    double reach = bulge * halfChord + slack;
-    if (bulge <= 1.0) {
-        // A point up to `noise` on the wrong side of the chord may count as on its apex side.
-        double const noise = 1e-13 * (radius + scale.size);
-        reach = std::sqrt(halfChord * halfChord + 2.0 * radius * (slack + noise) + slack * slack);
-    }
-    reach += scale.Margin();
-    double const middleX = arc.start.x + x / 2.0;
-    double const middleY = arc.start.y + y / 2.0;
-    return {middleX - reach, middleY - reach, middleX + reach, middleY + reach};
+    double const reach = HasCircleBox(arc) ? of.halfChord * std::max(bulge, 1.0 / bulge) +
+                                                 std::max(of.slack, 0.75 * of.radius) + scale.Margin()
+                                           : of.reach;
+    return {of.middle.x - reach, of.middle.y - reach, of.middle.x + reach, of.middle.y + reach};
 }
 
 PlaneBox BoxOfSide(TSelem const & side, PlaneScale const & scale)
@@ -51,7 +44,7 @@ class TurnCount
 {
   public:
     TurnCount(CMathematics & math, PolygonSides const & sides, SideBoxes const & boxes, TUVect2D const & p)
-        : m_math(math), m_sides(sides), m_boxes(boxes), m_p(p)
+        : m_math(math), m_sides(sides), m_boxes(boxes), m_p(p), m_margin(boxes.Margin())
     {
     }
 
@@ -110,6 +103,11 @@ class TurnCount
         return true;
     }
 
+    bool IsOnEnd(TSelem const & side) const
+    {
+        return Length(m_p - side.start) < m_math.GetOkoli() || Length(m_p - side.end) < m_math.GetOkoli();
+    }
+
     bool VisitArc(TSelem const & arc)
     {
         if (m_math.IsPointOnArc(m_p, arc.start, arc.end, arc.bulge))
@@ -131,6 +129,7 @@ class TurnCount
     PolygonSides const & m_sides;
     SideBoxes const & m_boxes;
     TUVect2D m_p;
+    double m_margin;  ///< Points further than this from a side aren't on it.
     int m_turns = 0;
 };
 }  // namespace
@@ -146,6 +145,11 @@ TreeShape::TreeShape(std::size_t leaves) : m_levels(0)
     } while (count > 0);
 }
 
+bool HasCircleBox(TSelem const & arc)
+{
+    return std::fabs(arc.bulge) >= kRoundBulge;
+}
+
 bool MayBeFlat(TSelem const & arc)
 {
     double const x = arc.end.x - arc.start.x;
@@ -153,15 +157,25 @@ bool MayBeFlat(TSelem const & arc)
     return std::fabs(arc.bulge) < kFlatBulge * (1.0 + 1e-9) || x * x + y * y < kShortChord * kShortChord;
 }
 
-double CircleSlack(TSelem const & arc, double radius, PlaneScale const & scale)
+ArcReach::ArcReach(TSelem const & arc, PlaneScale const & scale)
 {
-    double const b = std::fabs(arc.bulge);
-    double const sagitta = radius * (2.0 * b * b / (1.0 + b * b));
-    return std::max(sagitta / 4.0, scale.Margin() + 1e-13 * radius);
+    double const x = arc.end.x - arc.start.x;
+    double const y = arc.end.y - arc.start.y;
+    double const bulge = std::fabs(arc.bulge);
+    middle = {{arc.start.x + x / 2.0, arc.start.y + y / 2.0}};
+    halfChord = std::sqrt(x * x + y * y) / 2.0;
+    radius = halfChord * (1.0 + bulge * bulge) / (2.0 * bulge);
+    double const sagitta = halfChord * bulge;
+    slack = std::max(sagitta / 4.0, scale.Margin() + 1e-13 * radius);
+    // A point up to `noise` on the wrong side of the chord may count as on its apex side.
+    double const noise = 1e-13 * (radius + scale.size);
+    reach = bulge > 1.0 ? sagitta + slack
+                        : std::sqrt(halfChord * halfChord + 2.0 * radius * (slack + noise) + slack * slack);
+    reach += scale.Margin();
 }
 
 SideBoxes::SideBoxes(PolygonSides const & sides, PlaneScale const & scale, std::pmr::memory_resource & memory)
-    : m_shape(sides.Sides().size()), m_boxes(m_shape.Size(), &memory)
+    : m_shape(sides.Sides().size()), m_boxes(m_shape.Size(), &memory), m_margin(scale.Margin())
 {
     std::transform(sides.Sides().begin(), sides.Sides().end(), m_boxes.begin(),
                    [&scale](TSelem const & side) { return BoxOfSide(side, scale); });

@@ -7,8 +7,8 @@
 // What a box promises: a side meets nothing that lies outside of its box, and decides about no point there
 // except by where its two ends lie. For that the boxes are widened by the tolerance, by rounding, and round
 // arcs by the places beside the circle at which the plain method still counts a point as on the arc. Flat
-// arcs, which meet what they don't meet, have boxes without end. Circles that nearly fall together are left
-// out of the promise; see polygon_circles.h.
+// arcs, which meet what they don't meet, have boxes without end. Pairs of shallow arcs whose circles
+// nearly fall together are left out of the promise; see polygon_circles.h.
 
 #include "geometry/box_tree.h"
 #include "geometry/polygon_sides.h"
@@ -114,8 +114,22 @@ class PairSearch
 /// Whether the space routines take an arc side for its chord, or may.
 bool MayBeFlat(TSelem const & arc);
 
-/// How far beside its circle the counted points of an arc still lie within its box.
-double CircleSlack(TSelem const & arc, double radius, PlaneScale const & scale);
+/// Whether an arc's box covers its whole circle.
+bool HasCircleBox(TSelem const & arc);
+
+/// How far the counted points of an arc reach: those on the apex side of its chord that lie no further than
+/// `slack` beside its circle. With half chord h and radius R they lie no further from the chord's middle than
+/// sqrt(h^2 + 2 R slack + slack^2), for more than a half circle than sagitta + slack.
+struct ArcReach
+{
+    TUVect2D middle;
+    double halfChord;
+    double radius;
+    double slack;
+    double reach;  ///< From the chord's middle, with all margins.
+
+    ArcReach(TSelem const & arc, PlaneScale const & scale);
+};
 
 class SideBoxes
 {
@@ -124,10 +138,12 @@ class SideBoxes
 
     TreeShape const & Shape() const { return m_shape; }
     PlaneBox const & operator[](std::size_t place) const { return m_boxes[place]; }
+    double Margin() const { return m_margin; }
 
   private:
     TreeShape m_shape;
     std::pmr::vector<PlaneBox> m_boxes;
+    double m_margin;
 };
 
 /// The class of a point, as by CMathematics::IsPointInArea; but a vertex counts as an edge.

@@ -18,7 +18,8 @@ struct CircleBounds
     }
 };
 
-/// The circles of an area's arcs, but for those that may count as lines, in a tree.
+/// The circles of an area's arcs in a tree, but for arcs that may count as lines and those whose boxes cover
+/// their circles.
 class Circles
 {
   public:
@@ -42,11 +43,11 @@ class Circles
             TSelem const & arc = sides.Sides()[i];
             TUVect2D c;
             double radius;
-            if (arc.type != EDGE_ARC || sides.IsPoint(i) || MayBeFlat(arc) ||
+            if (arc.type != EDGE_ARC || sides.IsPoint(i) || HasCircleBox(arc) || MayBeFlat(arc) ||
                 !math.GetArcCentre(arc.start, arc.end, arc.bulge, c, radius))
                 continue;
             m_arcs.push_back(i);
-            m_bounds.push_back({{c.x, c.y, c.x, c.y}, radius, radius, CircleSlack(arc, radius, scale)});
+            m_bounds.push_back({{c.x, c.y, c.x, c.y}, radius, radius, ArcReach(arc, scale).slack});
         }
         return m_arcs.size();
     }
@@ -71,7 +72,8 @@ bool MayTouchBesideBoxes(CircleBounds const & a, CircleBounds const & b, PlaneSc
 {
     PlaneBox const & p = a.centres;
     PlaneBox const & q = b.centres;
-    double const least = std::hypot(Gap(p.lowX, p.highX, q.lowX, q.highX), Gap(p.lowY, p.highY, q.lowY, q.highY));
+    double const least =
+        std::hypot(Gap(p.lowX, p.highX, q.lowX, q.highX), Gap(p.lowY, p.highY, q.lowY, q.highY));
     double const radius = std::max(a.maxRadius, b.maxRadius);
     if (least * std::min(a.minSlack, b.minSlack) > 2.0 * radius * scale.tolerance)
         return false;
@@ -91,8 +93,10 @@ void FindNearlyEqualCircles(CMathematics & math, PolygonSides const & a, Polygon
                             std::pmr::vector<std::pair<std::uint32_t, std::uint32_t>> & pairs)
 {
     Circles const circlesA(math, a, scale, memory);
+    if (circlesA.IsEmpty())
+        return;
     Circles const circlesB(math, b, scale, memory);
-    if (circlesA.IsEmpty() || circlesB.IsEmpty())
+    if (circlesB.IsEmpty())
         return;
     auto const mayMeet = [&](std::size_t i, std::size_t j) {
         return MayTouchBesideBoxes(circlesA[i], circlesB[j], scale);

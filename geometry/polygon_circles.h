@@ -4,7 +4,8 @@
 // Arcs whose circles nearly fall together. Where one circle touches another from inside within the tolerance,
 // with centres not far from each other, the plain method takes them to meet at a point that may lie well
 // beside both, by up to radius times tolerance over distance of the centres. The boxes of such arcs needn't
-// overlap, so the pairs are found by their circles.
+// overlap where both arcs are shallow, so these pairs are found by their circles; the box of an arc that
+// isn't shallow covers its circle, and with it the other arc.
 
 #include "geometry/polygon_boxes.h"
 

@@ -1,6 +1,7 @@
 #include "geometry/polygon_contacts.h"
 
 #include "geometry/polygon_circles.h"
+#include "geometry/polygon_clearance.h"
 
 namespace detail {
 void ContactTable::Fill(std::size_t count, std::pmr::vector<Pair> const & pairs)
@@ -37,7 +38,10 @@ Contacts::Contacts(CMathematics & math, PolygonSides const & a, SideBoxes const 
         FindNearlyEqualCircles(math, a, b, scale, memory, pairs);
     bool const mayRepeat = !pairs.empty();
     auto const mayMeet = [&](std::size_t i, std::size_t j) { return boxesOfA[i].Meets(boxesOfB[j]); };
-    auto const found = [&](std::uint32_t i, std::uint32_t j) { pairs.emplace_back(i, j); };
+    auto const found = [&](std::uint32_t i, std::uint32_t j) {
+        if (!AreClear(math, a.Sides()[i], b.Sides()[j], scale))
+            pairs.emplace_back(i, j);
+    };
     PairSearch(boxesOfA.Shape(), boxesOfB.Shape(), mayMeet, found)
         .Search(boxesOfA.Shape().Root(), boxesOfB.Shape().Root());
     if (mayRepeat) {

@@ -38,6 +38,15 @@ struct CuttingArea
     SideBoxes const & boxes;
 };
 
+/// The class of the point that was asked for last, or of one that is certain to have the same class.
+struct KnownClass
+{
+    TUVect2D at{};
+    int pointClass = -1;  ///< -1 before the first question.
+
+    bool IsAt(TUVect2D const & p) const { return pointClass >= 0 && IsSamePoint(p, at); }
+};
+
 class IndexedCutter
 {
   public:
@@ -51,6 +60,10 @@ class IndexedCutter
     void PointOf(TSelem const & e, double position, TUVect2D & p);
 
   private:
+    /// Moves the known class from the place on the element that was asked for last to the element's end, if
+    /// nothing lies between.
+    void CarryClassToEnd(TSelem const & e);
+
     /// An element that meets no side; `isOneClass` tells whether its end has the class of its start.
     int CutClear(TSelem const & e, bool isOneClass, IntervalArray & intervals);
 
@@ -60,8 +73,7 @@ class IndexedCutter
     PlaneScale m_scale;
     std::vector<TSInterval> m_intervals;    ///< Working memory of a cut.
     std::vector<std::uint32_t> m_partners;  ///< The sides that an element may really meet.
-    TUVect2D m_known{};                     ///< A point whose class is known.
-    int m_knownClass = -1;                  ///< -1 for none.
+    KnownClass m_known;
 };
 }  // namespace detail
 

@@ -1,4 +1,5 @@
 #include <array>
+#include <memory>
 
 #include "geometry/detail_polygon_intersection.h"
 #include "geometry/detail_polygon_stages.h"
@@ -8,8 +9,12 @@
 using namespace detail;
 
 namespace {
-/// Working memory of a call that needs no allocation; enough for outlines of a dozen sides.
+/// Working memory for small outlines, of a dozen sides or two, so that they need no allocation.
 constexpr std::size_t kMemoryOnStack = 16384;
+
+/// Working memory per record of larger outlines, taken in one piece: memory that is given back in many pieces
+/// goes back to the system, which then hands it out page by page the next time.
+constexpr std::size_t kMemoryPerRecord = 256;
 
 int IntersectIndexed(CMathematics & math, Area const & a, PolygonSides const & sidesOfA, Area const & b,
                      PolygonSides const & sidesOfB, std::pmr::memory_resource & memory,
@@ -21,8 +26,8 @@ int IntersectIndexed(CMathematics & math, Area const & a, PolygonSides const & s
     Contacts const contacts(math, sidesOfA, boxesOfA, sidesOfB, boxesOfB, scale, memory);
     IndexedCutter cutterOfA(math, {sidesOfB, boxesOfB}, contacts.ofA, scale);
     IndexedCutter cutterOfB(math, {sidesOfA, boxesOfA}, contacts.ofB, scale);
-    IndexedPieces piecesOfA(math, 2 * sidesOfA.ElementCount(), memory);
-    IndexedPieces piecesOfB(math, 2 * sidesOfB.ElementCount(), memory);
+    IndexedPieces piecesOfA(math, sidesOfA.ElementCount(), memory);
+    IndexedPieces piecesOfB(math, sidesOfB.ElementCount(), memory);
     IndexedElements const elementsOfA(sidesOfA);
     IndexedElements const elementsOfB(sidesOfB);
     auto const isFirstOfBInside = [&] {
@@ -38,7 +43,11 @@ int CMathematics::PolygonIntersection(CArray<TSPoint2DPlane, TSPoint2DPlane &> c
                                       CArray<TSGeneralSet, TSGeneralSet &> *& result)
 {
     std::array<std::byte, kMemoryOnStack> onStack;
-    std::pmr::monotonic_buffer_resource memory(onStack.data(), onStack.size());
+    std::size_t const wanted = kMemoryPerRecord * static_cast<std::size_t>(a->GetSize() + b->GetSize());
+    auto const onHeap =
+        wanted > kMemoryOnStack ? std::make_unique_for_overwrite<std::byte[]>(wanted) : nullptr;
+    std::pmr::monotonic_buffer_resource memory(onHeap ? onHeap.get() : onStack.data(),
+                                               onHeap ? wanted : onStack.size());
     PolygonSides sidesOfA(*this, *a, memory);
     PolygonSides sidesOfB(*this, *b, memory);
     if (!sidesOfA.IsUsable() || !sidesOfB.IsUsable())

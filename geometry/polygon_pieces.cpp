@@ -37,6 +37,7 @@ void IndexedPieces::Add(TSelem const & piece)
         m_first = i;
     m_last = i;
     ++m_size;
+    m_steps += kStepsPerPiece;
 }
 
 IndexedPieces::Position IndexedPieces::Remove(Position i)
@@ -71,7 +72,8 @@ IndexedPieces::Position IndexedPieces::FindLastOpposite(TSelem const & e)
 template <class Predicate>
 IndexedPieces::Position IndexedPieces::FindLast(TUVect2D const & start, Predicate const & holds)
 {
-    if (m_size <= kShortSearch) {
+    if (m_size <= m_steps) {
+        m_steps -= m_size;
         for (Position i = m_last; i != End(); i = m_links[i].previous)
             if (holds(m_pieces[i]))
                 return i;
@@ -87,9 +89,10 @@ IndexedPieces::Position IndexedPieces::FindLast(TUVect2D const & start, Predicat
 
 IndexedPieces::Position IndexedPieces::SearchStart(Position i, TUVect2D const & p, std::int64_t & budget)
 {
-    for (std::size_t steps = 0; budget > 0 && m_size > 0 && !Same(m_pieces[i].start, p); ++steps) {
-        if (steps == kShortSearch)
+    while (budget > 0 && m_size > 0 && !Same(m_pieces[i].start, p)) {
+        if (m_steps == 0)
             return SearchByIndex(i, p, budget);
+        --m_steps;
         i = NextAround(i);
         --budget;
     }

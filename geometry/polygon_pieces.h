@@ -2,7 +2,7 @@
 #define KX7_GEOMETRY_POLYGON_PIECES_H
 
 // The pieces of one boundary in a linked list. Its positions and answers are those of an array searched one
-// by one (PlainPieces), but a search that gets long goes through the sorted starts.
+// by one (PlainPieces), but when the searches get long they go through the sorted starts.
 
 #include <cstdint>
 #include <memory_resource>
@@ -58,8 +58,8 @@ class IndexedPieces
         bool operator<(Start const & other) const { return along < other.along; }
     };
 
-    /// Searches no longer than this are made step by step.
-    static constexpr std::size_t kShortSearch = 32;
+    /// So many steps are searched one by one before the starts are sorted; that costs about as much.
+    static constexpr std::size_t kStepsPerPiece = 16;
 
     bool IsAlive(Position i) const { return m_links[i].previous != i; }
     void MakeIndex();
@@ -87,6 +87,7 @@ class IndexedPieces
     Position m_first = End();
     Position m_last = End();
     std::size_t m_size = 0;
+    std::size_t m_steps = 0;  ///< Left to be searched one by one.
 };
 }  // namespace detail
 

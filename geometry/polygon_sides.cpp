@@ -32,6 +32,13 @@ struct SurfaceBounds
         high += bulge > 0.0 ? -least : most;
     }
 };
+
+/// Whether the end is a vertex and all numbers are fit for the index; NaN passes no comparison.
+bool IsInRange(TSelem const & side)
+{
+    return std::fabs(side.end.x) < -ARC_MARKER_LIMIT && std::fabs(side.end.y) < -ARC_MARKER_LIMIT &&
+           std::fabs(side.bulge) <= kMostBulge;
+}
 }  // namespace
 
 PolygonSides::PolygonSides(CMathematics & math, Area const & area, std::pmr::memory_resource & memory)
@@ -45,44 +52,33 @@ bool PolygonSides::Read(AreaRecords records, double tolerance)
         !IsSamePoint(VertexOf(records.front()), VertexOf(records.back())))
         return false;
     m_sides.reserve(records.size() - 1);
-    m_extents.AddVertex(VertexOf(records.front()));
+    Extents extents;  // apart from the object, so that the loop may keep it in registers
     TUVect2D from = VertexOf(records.front());
+    extents.AddVertex(from);
     for (std::size_t i = 1; i < records.size(); ++i) {
-        TSPoint2DPlane const * const marker = IsArcMarker(records[i]) ? &records[i++] : nullptr;
-        if (IsArcMarker(records[i]))
+        TSelem & side = m_sides.emplace_back();
+        side.type = EDGE_LINE;
+        side.start = from;
+        if (IsArcMarker(records[i])) {
+            side.type = EDGE_ARC;
+            side.bulge = records[i++].y;
+            m_hasArcs = true;
+        }
+        side.end = VertexOf(records[i]);
+        if (!IsInRange(side))
             return false;
-        TUVect2D const to = VertexOf(records[i]);
-        if (!AddSide(from, to, marker, tolerance))
-            return false;
-        from = to;
+        extents.AddVertex(side.end);
+        if (side.type == EDGE_ARC)
+            extents.AddArc(Length(side.end - side.start), side.bulge);
+        if (IsOnePlace(side.start, side.end, tolerance)) {
+            side.mark = kPointMark;
+            ++m_points;
+        }
+        from = side.end;
     }
-    return m_size <= kMostTolerances * tolerance;
-}
-
-bool PolygonSides::AddSide(TUVect2D const & from, TUVect2D const & to, TSPoint2DPlane const * marker,
-                           double tolerance)
-{
-    // NaN passes no comparison, so that it can't get into the size unseen.
-    double const size = std::max(std::fabs(to.x), std::fabs(to.y));
-    if (!(std::fabs(to.x) < -ARC_MARKER_LIMIT && std::fabs(to.y) < -ARC_MARKER_LIMIT))
-        return false;
-    m_size = std::max(m_size, size);
-    m_extents.AddVertex(to);
-    TSelem side{EDGE_LINE, 0, from, to, 0.0};
-    if (marker) {
-        side.type = EDGE_ARC;
-        side.bulge = marker->y;
-        if (!(std::fabs(side.bulge) <= kMostBulge))
-            return false;
-        m_hasArcs = true;
-        m_extents.AddArc(Length(to - from), side.bulge);
-    }
-    if (IsOnePlace(from, to, tolerance)) {
-        side.mark = kPointMark;
-        ++m_points;
-    }
-    m_sides.push_back(side);
-    return true;
+    m_extents = extents;
+    m_size = std::max({-extents.min[0], extents.max[0], -extents.min[1], extents.max[1]});
+    return tolerance >= kLeastTolerance && m_size <= kMostTolerances * tolerance;
 }
 
 TSelem PolygonSides::ElementOf(std::uint32_t side) const

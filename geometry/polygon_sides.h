@@ -15,6 +15,9 @@ namespace detail {
 /// tolerance there.
 inline constexpr double kMostTolerances = 1e13;
 
+/// The same for smaller tolerances: they come near the fixed limits of the plain method.
+inline constexpr double kLeastTolerance = 1e-12;
+
 /// The same for arcs that are nearly whole circles.
 inline constexpr double kMostBulge = 1e4;
 
@@ -60,7 +63,6 @@ class PolygonSides
     static constexpr int kPointMark = 1;
 
     bool Read(AreaRecords records, double tolerance);
-    bool AddSide(TUVect2D const & from, TUVect2D const & to, TSPoint2DPlane const * marker, double tolerance);
 
     std::pmr::vector<TSelem> m_sides;
     Extents m_extents;
