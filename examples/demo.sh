@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# The main job on the sample drawings: numbers of each, pictures and drawings into build/demo, and the Windows
+# program's table beside the native one.
+set -eu
+root=$(cd "$(dirname "$0")/.." && pwd)
+out="$root/build/demo"
+rm -rf "$out"
+mkdir -p "$out"
+for drawing in "$root"/examples/data/*.dxf; do
+    name=$(basename "$drawing" .dxf)
+    "$root/build/native/bin/section" "$drawing" --output "$out/$name" | tee "$out/$name.txt"
+done
+first=$(ls "$root"/examples/data/*.dxf | head -n 1)
+name=$(basename "$first" .dxf)
+"$root/tests/wine/run_under_wine" "$root/build/windows/bin/section.exe" "$first" --output "$out/$name-windows" \
+    >"$out/$name-windows.txt"
+if cmp -s "$out/$name.txt" "$out/$name-windows.txt"; then
+    echo "The Windows program prints the same table for $name, byte for byte."
+else
+    echo "The Windows program's table for $name differs:" >&2
+    diff "$out/$name.txt" "$out/$name-windows.txt" >&2
+    exit 1
+fi
+echo "Tables, pictures (.png, .svg, .pdf, .bmp) and drawings are in $out"
