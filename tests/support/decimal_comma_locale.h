@@ -16,7 +16,7 @@ class DecimalCommaLocale
     DecimalCommaLocale()
     {
 #if defined(_WIN32)
-        std::setlocale(LC_NUMERIC, "Czech_Czech Republic.1250") || std::setlocale(LC_NUMERIC, "cs-CZ");
+        std::setlocale(LC_NUMERIC, "Czech");
 #else
         std::string const folder = std::string(kBuildDir) + "/locales";
         if (!std::filesystem::exists(folder + "/cs_CZ.UTF-8/LC_NUMERIC")) {
