@@ -266,6 +266,43 @@ TEST(DrawingOpening, LeavesAHostsFileBehindTheDrawing)
     EXPECT_EQ(file.GetPosition(), bytes.size() - 4);
 }
 
+// A drawing of a given length that is made while it is read.
+class EndlessDrawing : public CMemFile
+{
+  public:
+    explicit EndlessDrawing(std::size_t lines) : m_linesLeft(lines)
+    {
+        m_pending = Groups("0|SECTION; 2|ENTITIES");
+    }
+
+    UINT largestRead = 0;
+
+    UINT Read(void * buffer, UINT count) override
+    {
+        largestRead = std::max(largestRead, count);
+        std::string const line = Groups("0|LINE; 8|Walls; 10|1.25; 31|6.5");
+        for (; m_pending.size() < count && m_linesLeft > 0; --m_linesLeft)
+            m_pending += line;
+        auto const piece = static_cast<UINT>(m_pending.copy(static_cast<char *>(buffer), count));
+        m_pending.erase(0, piece);
+        return piece;
+    }
+
+  private:
+    std::size_t m_linesLeft;
+    std::string m_pending;
+};
+
+TEST(DrawingOpening, ReadsAnyLengthThroughOneSmallBuffer)
+{
+    EndlessDrawing file(200000);
+    CDXFInBasic reader;
+    Reading const reading = ReadDrawing(reader, file);
+    EXPECT_EQ(reading.status, 2);
+    EXPECT_EQ(file.largestRead, 4096U);
+    EXPECT_THAT(reading.messages, ElementsAre(HasSubstr(" 1600004.")));  // 4 groups a line and 2 in front
+}
+
 DWORD g_flags = 0;
 
 TEST(DrawingOpening, AsksForTheFile)
