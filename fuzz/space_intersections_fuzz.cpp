@@ -14,7 +14,7 @@
 using namespace fuzz;
 
 namespace {
-struct Arc
+struct SpaceArc
 {
     TUVect3D start;
     TUVect3D end;
@@ -22,7 +22,7 @@ struct Arc
     double bulge;
 };
 
-Arc TakeArc(ByteInput & input)
+SpaceArc TakeArc(ByteInput & input)
 {
     TUVect3D const start = input.Point();
     TUVect3D const end = input.Point();
@@ -75,7 +75,7 @@ void DrivePlane(CMathematics & math, TUVect3D const & a, TUVect3D const & b, TUV
         math.PointLiesInPolygon({{c.z, c.y}}, polygon, count, 1);
 }
 
-void DriveArcs(CMathematics & math, Arc const & a, Arc const & b, int mode)
+void DriveArcs(CMathematics & math, SpaceArc const & a, SpaceArc const & b, int mode)
 {
     TUVect3D p1;
     TUVect3D p2;
@@ -106,7 +106,7 @@ void DriveArcs(CMathematics & math, Arc const & a, Arc const & b, int mode)
     Require(feet >= 0 && feet <= 2 && tangents >= 0 && tangents <= 2);
 }
 
-void DriveEdges(CMathematics & math, Arc const & a, Arc const & b, int type)
+void DriveEdges(CMathematics & math, SpaceArc const & a, SpaceArc const & b, int type)
 {
     double const matrix[3][3] = {
         {b.start.x, b.start.y, b.start.z}, {b.end.x, b.end.y, b.end.z}, {0.0, 0.0, 1.0}};
@@ -134,7 +134,7 @@ void DriveEdges(CMathematics & math, Arc const & a, Arc const & b, int type)
     object.GetLengthToPoint(&length, b.start);
 }
 
-void DriveMover(CMathematics & math, Arc a, Arc b, int action)
+void DriveMover(CMathematics & math, SpaceArc a, SpaceArc b, int action)
 {
     CMatPoint mover(&math);
     TSPlaneEdge3D edge = {a.start, a.end, a.arcVector, a.bulge, EDGE_ARC};
@@ -166,8 +166,8 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t siz
     while (!input.IsEmpty()) {
         int const mode = input.Byte() % 3;
         int const choice = input.Byte();
-        Arc const a = TakeArc(input);
-        Arc const b = choice % 4 ? TakeArc(input) : a;
+        SpaceArc const a = TakeArc(input);
+        SpaceArc const b = choice % 4 ? TakeArc(input) : a;
         DriveLines(math, a.start, a.end, b.start, b.end, mode);
         DrivePlane(math, a.start, a.end, b.start);
         DriveArcs(math, a, b, mode);

@@ -12,7 +12,7 @@ struct Hits
     int flags;
 };
 
-Hits Hit(Arc const & a, Arc const & b)
+Hits Hit(SpaceArc const & a, SpaceArc const & b)
 {
     CMathematics math;
     Hits h = {};
@@ -22,7 +22,7 @@ Hits Hit(Arc const & a, Arc const & b)
     return h;
 }
 
-int Code(Arc const & a, Arc const & b)
+int Code(SpaceArc const & a, SpaceArc const & b)
 {
     CMathematics math;
     TUVect3D p1;
@@ -39,7 +39,7 @@ struct Extended
     int classB[2];
 };
 
-Extended Extend(Arc const & a, Arc const & b)
+Extended Extend(SpaceArc const & a, SpaceArc const & b)
 {
     CMathematics math;
     Extended e = {};
@@ -50,13 +50,13 @@ Extended Extend(Arc const & a, Arc const & b)
 }
 
 /// The unit circle's arc between two angles in degrees.
-Arc Degrees(double from, double to)
+SpaceArc Degrees(double from, double to)
 {
     return kUnitCircle.Cut(from * kPi / 180.0, (to - from) * kPi / 180.0);
 }
 
 /// The upper half of the circle about (x, 0) with the radius 1.
-Arc HalfAt(double x)
+SpaceArc HalfAt(double x)
 {
     return {P(x - 1, 0, 0), P(x + 1, 0, 0), P(0, 1, 0), 1.0};
 }
@@ -79,8 +79,8 @@ TEST(TwoArcs, CrossInOnePlane)
 
 TEST(TwoArcs, SurvivorComesFirst)
 {
-    Arc const lowerA = {P(-1, 0, 0), P(1, 0, 0), P(0, -1, 0), 1.0};
-    Arc const lowerB = {P(0.2, 0, 0), P(2.2, 0, 0), P(0, 1, 0), -1.0};
+    SpaceArc const lowerA = {P(-1, 0, 0), P(1, 0, 0), P(0, -1, 0), 1.0};
+    SpaceArc const lowerB = {P(0.2, 0, 0), P(2.2, 0, 0), P(0, 1, 0), -1.0};
     Hits const h = Hit(lowerA, lowerB);
     EXPECT_EQ(h.code, 1);
     ExpectPoint(h.p[0], P(0.6, -0.8, 0));
@@ -101,7 +101,7 @@ TEST(TwoArcs, TwoPointsInOnePlane)
 
 TEST(TwoArcs, TouchInOnePlane)
 {
-    Hits const h = Hit(Degrees(-90, 90), Arc{P(2, -1, 0), P(2, 1, 0), P(-1, 0, 0), 1.0});
+    Hits const h = Hit(Degrees(-90, 90), SpaceArc{P(2, -1, 0), P(2, 1, 0), P(-1, 0, 0), 1.0});
     EXPECT_EQ(h.code, 1);
     ExpectPoint(h.p[0], P(1, 0, 0));
     // From inside.
@@ -144,7 +144,7 @@ TEST(TwoArcs, EndsOfEachArePlacedOnTheOtherForOneCircle)
 
 TEST(TwoArcs, HalvesOfOneCircleMeetInTwoPoints)
 {
-    Arc const lower = {P(2, 0, 0), P(0, 0, 0), P(0, -1, 0), 1.0};
+    SpaceArc const lower = {P(2, 0, 0), P(0, 0, 0), P(0, -1, 0), 1.0};
     Hits const h = Hit(kHalf, lower);
     EXPECT_EQ(h.code, 2);
     ExpectPoint(h.p[0], P(2, 0, 0), 0.0);
@@ -156,8 +156,8 @@ TEST(TwoArcs, HalvesOfOneCircleMeetInTwoPoints)
 
 TEST(TwoArcs, ComplementsMeetInTwoPoints)
 {
-    Arc const part = Degrees(20, 130);
-    Arc const rest = {part.start, part.end, Times(-1.0, part.arcVector), 1.0 / part.bulge};
+    SpaceArc const part = Degrees(20, 130);
+    SpaceArc const rest = {part.start, part.end, Times(-1.0, part.arcVector), 1.0 / part.bulge};
     EXPECT_EQ(Hit(part, rest).code, 2);
 }
 
@@ -180,7 +180,7 @@ TEST(TwoArcs, AcrossPlanes)
 TEST(TwoArcs, FlatOneIsALine)
 {
     // Read the wrong way round: a chord that meets the arc as its line meets it.
-    Arc const flat = {P(1, 0.5, 0), P(1, 2, 0), P(1, 0, 0), 1e-6};
+    SpaceArc const flat = {P(1, 0.5, 0), P(1, 2, 0), P(1, 0, 0), 1e-6};
     Hits const second = Hit(kHalf, flat);
     EXPECT_EQ(second.code, 1);
     ExpectPoint(second.p[0], P(1, 1, 0));
@@ -194,7 +194,7 @@ TEST(TwoArcs, FlatOneIsALine)
 
 TEST(TwoArcs, SharedEndIsNoIntersection)
 {
-    Arc const neighbour = {P(2, 0, 0), P(4, 0, 0), P(0, 1, 0), 1.0};
+    SpaceArc const neighbour = {P(2, 0, 0), P(4, 0, 0), P(0, 1, 0), 1.0};
     EXPECT_EQ(Hit(kHalf, neighbour).code, 1);
     EXPECT_EQ(Code(kHalf, neighbour), 0);
     EXPECT_EQ(Code(HalfAt(0.0), HalfAt(1.2)), 1);
@@ -249,8 +249,8 @@ TEST(TwoArcs, RandomCrossingsInOnePlane)
             return Ahead(fromA, sign * half) <= sweepA && Ahead(fromB, kPi - sign * half) <= sweepB;
         };
         int const expected = (on(1.0) ? 1 : 0) + (on(-1.0) ? 1 : 0);
-        Arc const a = c.Cut(fromA, sweepA, random.Below(2) == 1);
-        Arc const b = d.Cut(fromB, sweepB, random.Below(2) == 1);
+        SpaceArc const a = c.Cut(fromA, sweepA, random.Below(2) == 1);
+        SpaceArc const b = d.Cut(fromB, sweepB, random.Below(2) == 1);
         Hits const h = Hit(a, b);
         ASSERT_EQ(h.code, expected) << i;
         ASSERT_EQ(Hit(b, a).code, expected);
@@ -286,8 +286,8 @@ TEST(TwoArcs, RandomCrossingsAcrossPlanes)
         double const fromA = random.Between(0, 2 * kPi);
         double const fromB = random.Between(0, 2 * kPi);
         bool const expected = Ahead(fromA, angle) <= sweepA && Ahead(fromB, 0.0) <= sweepB;
-        Arc const a = c.Cut(fromA, sweepA, random.Below(2) == 1);
-        Arc const b = d.Cut(fromB, sweepB, random.Below(2) == 1);
+        SpaceArc const a = c.Cut(fromA, sweepA, random.Below(2) == 1);
+        SpaceArc const b = d.Cut(fromB, sweepB, random.Below(2) == 1);
         Hits const h = Hit(a, b);
         bool const hit =
             (h.code >= 1 && Apart(h.p[0], common) < 1e-6) || (h.code == 2 && Apart(h.p[1], common) < 1e-6);
@@ -305,8 +305,8 @@ TEST(TwoArcs, OddNumbersEnd)
 {
     Random random(27);
     for (int i = 0; i < 20000; ++i) {
-        Arc const a = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
-        Arc const b = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
+        SpaceArc const a = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
+        SpaceArc const b = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
         int const code = Hit(a, b).code;
         ASSERT_TRUE((code >= 0 && code <= 3) || code == 17);
         Code(a, b);

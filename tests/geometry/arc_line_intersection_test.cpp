@@ -12,7 +12,7 @@ struct Hits
     int flags;
 };
 
-Hits Hit(Arc const & arc, TUVect3D const & l1, TUVect3D const & l2, int mode)
+Hits Hit(SpaceArc const & arc, TUVect3D const & l1, TUVect3D const & l2, int mode)
 {
     CMathematics math;
     Hits h = {};
@@ -22,7 +22,7 @@ Hits Hit(Arc const & arc, TUVect3D const & l1, TUVect3D const & l2, int mode)
     return h;
 }
 
-int Code(Arc const & arc, TUVect3D const & l1, TUVect3D const & l2, int mode)
+int Code(SpaceArc const & arc, TUVect3D const & l1, TUVect3D const & l2, int mode)
 {
     CMathematics math;
     TUVect3D p1;
@@ -30,7 +30,7 @@ int Code(Arc const & arc, TUVect3D const & l1, TUVect3D const & l2, int mode)
     return math.ArcLineIntersection(arc.start, arc.end, arc.arcVector, arc.bulge, l1, l2, p1, p2, mode);
 }
 
-int PlusCode(Arc const & arc, TUVect3D const & l1, TUVect3D const & l2, int mode)
+int PlusCode(SpaceArc const & arc, TUVect3D const & l1, TUVect3D const & l2, int mode)
 {
     CMathematics math;
     TUVect3D p1;
@@ -46,7 +46,7 @@ struct Extended
     int lineClass[2] = {-77, -77};
 };
 
-Extended Extend(Arc const & arc, TUVect3D const & l1, TUVect3D const & l2)
+Extended Extend(SpaceArc const & arc, TUVect3D const & l1, TUVect3D const & l2)
 {
     CMathematics math;
     Extended e = {};
@@ -155,7 +155,7 @@ TEST(ArcAndLine, EndOfTheArcCountsAcrossTheChordToo)
 
 TEST(ArcAndLine, NegativeBulgeTurnsTheSide)
 {
-    Arc const lower = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), -1.0};
+    SpaceArc const lower = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), -1.0};
     Hits const h = Hit(lower, P(1, -2, 0), P(1, 2, 0), 1);
     EXPECT_EQ(h.code, 1);
     ExpectPoint(h.p[0], P(1, -1, 0));
@@ -164,14 +164,14 @@ TEST(ArcAndLine, NegativeBulgeTurnsTheSide)
 TEST(ArcAndLine, MoreThanHalfACircle)
 {
     // Three quarters of the unit circle, from -45 over 90 to 225 degrees; its ends stand at y = -0.707.
-    Arc const large = kUnitCircle.Cut(-kPi / 4.0, 1.5 * kPi);
+    SpaceArc const large = kUnitCircle.Cut(-kPi / 4.0, 1.5 * kPi);
     EXPECT_EQ(Hit(large, P(-2, -0.5, 0), P(2, -0.5, 0), 1).code, 2);
     EXPECT_EQ(Hit(large, P(-2, -0.8, 0), P(2, -0.8, 0), 1).code, 0);
 }
 
 TEST(ArcAndLine, FlatArcIsReadTheWrongWayRound)
 {
-    Arc const flat = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), 9e-6};
+    SpaceArc const flat = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), 9e-6};
     // The line meets the chord: nothing.
     EXPECT_EQ(Hit(flat, P(1, -1, 0), P(1, 1, 0), 1).code, 0);
     // It misses the chord, and goes on against the circle about the coordinate origin through the start, here
@@ -232,7 +232,7 @@ TEST(ArcAndLine, RandomHitsLieOnBothInAnyPlaceAndDirection)
     for (int i = 0; i < 3000; ++i) {
         Circle const circle = RandomCircle(random);
         double const sweep = random.Between(0.2, 6.0);
-        Arc const arc = circle.Cut(0.0, sweep, random.Below(2) == 1);
+        SpaceArc const arc = circle.Cut(0.0, sweep, random.Below(2) == 1);
         // A chord of the circle, or a line through one of its points.
         double const angle1 = random.Between(0.0, 2.0 * kPi);
         double const angle2 = angle1 + random.Between(0.3, 5.9);
@@ -269,7 +269,7 @@ TEST(ArcAndLine, ParameterGrowsAlongTheArc)
     for (int i = 0; i < 200; ++i) {
         Circle const circle = RandomCircle(random);
         double const sweep = random.Between(0.3, 6.0);
-        Arc const arc = circle.Cut(1.0, sweep);
+        SpaceArc const arc = circle.Cut(1.0, sweep);
         double previous = -0.5;
         for (int k = 0; k <= 20; ++k) {
             TUVect3D const p = circle.At(1.0 + sweep * k / 20);
@@ -286,7 +286,7 @@ TEST(ArcAndLine, OddNumbersEnd)
 {
     Random random(22);
     for (int i = 0; i < 20000; ++i) {
-        Arc const arc = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
+        SpaceArc const arc = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
         TUVect3D const l1 = random.OddPoint();
         TUVect3D const l2 = random.OddPoint();
         int const code = Hit(arc, l1, l2, random.Below(2)).code;

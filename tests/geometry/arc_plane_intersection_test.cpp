@@ -10,7 +10,7 @@ struct Hits
     int count;
 };
 
-Hits Hit(Arc const & arc, TUVect3D const & origin, TUVect3D const & normal)
+Hits Hit(SpaceArc const & arc, TUVect3D const & origin, TUVect3D const & normal)
 {
     CMathematics math;
     Hits h = {};
@@ -21,7 +21,7 @@ Hits Hit(Arc const & arc, TUVect3D const & origin, TUVect3D const & normal)
     return h;
 }
 
-Arc const kFlat = {P(0, 0, -1), P(0, 0, 3), P(0, 1, 0), 9e-6};
+SpaceArc const kFlat = {P(0, 0, -1), P(0, 0, 3), P(0, 1, 0), 9e-6};
 }  // namespace
 
 TEST(ArcAndPlane, ArcInThePlane)
@@ -81,7 +81,7 @@ TEST(ArcAndPlane, RandomPlanesCutWhereTheArcChangesSides)
     for (int i = 0; i < 2000; ++i) {
         Circle const circle = RandomCircle(random);
         double const sweep = random.Between(0.2, 6.0);
-        Arc const arc = circle.Cut(0.0, sweep, random.Below(2) == 1);
+        SpaceArc const arc = circle.Cut(0.0, sweep, random.Below(2) == 1);
         TUVect3D const normal = random.Direction();
         TUVect3D const origin = Plus(circle.centre, random.Point(2.0));
         // Changes of sides along the arc, on a fine grid; near touches are left out.

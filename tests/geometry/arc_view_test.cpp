@@ -9,13 +9,13 @@ double const kEdgeOn[3][3] = {{1, 0, 0}, {0, 0, 1}, {0, -1, 0}};
 // u = x, v = (y + z) / 2: seen from a slant and not to scale.
 double const kSlanting[3][3] = {{1, 0, 0}, {0, 0.5, 0.5}, {0, -1, 1}};
 
-int Crosses(Arc const & arc, double x1, double y1, double x2, double y2, double const (*matrix)[3])
+int Crosses(SpaceArc const & arc, double x1, double y1, double x2, double y2, double const (*matrix)[3])
 {
     CMathematics math;
     return math.ArcLineIntersection(arc.start, arc.end, arc.arcVector, arc.bulge, x1, y1, x2, y2, matrix);
 }
 
-int AgainstRectangle(Arc const & arc, double left, double top, double right, double bottom,
+int AgainstRectangle(SpaceArc const & arc, double left, double top, double right, double bottom,
                      double const (*matrix)[3])
 {
     CMathematics math;
@@ -38,7 +38,7 @@ TEST(ArcSeen, AlongTheView)
     // The apex stands at v = 0.5.
     EXPECT_EQ(Crosses(kHalf, 1, 0, 1, 0.51, kSlanting), 1);
     EXPECT_EQ(Crosses(kHalf, 1, 0, 1, 0.49, kSlanting), 0);
-    Arc const lifted = {P(0, 0, 4), P(2, 0, 4), P(0, 1, 0), 1.0};
+    SpaceArc const lifted = {P(0, 0, 4), P(2, 0, 4), P(0, 1, 0), 1.0};
     EXPECT_EQ(Crosses(lifted, 1, 2, 1, 2.51, kSlanting), 1);
     EXPECT_EQ(Crosses(lifted, 1, 2, 1, 2.49, kSlanting), 0);
 }
@@ -57,16 +57,16 @@ TEST(ArcSeen, EdgeOn)
 TEST(ArcSeen, EdgeOnReachesBeyondItsEnds)
 {
     // Three quarters of the unit circle reach to u = -1 and 1, its ends to +-0.7 only.
-    Arc const large = kUnitCircle.Cut(-kPi / 4.0, 1.5 * kPi);
+    SpaceArc const large = kUnitCircle.Cut(-kPi / 4.0, 1.5 * kPi);
     EXPECT_EQ(Crosses(large, 0.9, 0, 5, 0, kEdgeOn), 1);
     EXPECT_EQ(Crosses(large, 1.1, 0, 5, 0, kEdgeOn), 0);
-    Arc const small = kUnitCircle.Cut(kPi / 4.0, kPi / 2.0);
+    SpaceArc const small = kUnitCircle.Cut(kPi / 4.0, kPi / 2.0);
     EXPECT_EQ(Crosses(small, 0.9, 0, 5, 0, kEdgeOn), 0);
 }
 
 TEST(ArcSeen, FlatArcIsItsChord)
 {
-    Arc const flat = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), 9e-6};
+    SpaceArc const flat = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), 9e-6};
     EXPECT_EQ(Crosses(flat, 1, -1, 1, 1, kFromAbove), 1);
     EXPECT_EQ(Crosses(flat, 3, -1, 3, 1, kFromAbove), 0);
     EXPECT_EQ(AgainstRectangle(flat, -1, -1, 3, 1, kFromAbove), 1);
@@ -91,7 +91,7 @@ TEST(ArcSeen, AgreesWithManyPointsAlongTheArc)
     for (int i = 0; i < 1000; ++i) {
         Circle const circle = RandomCircle(random);
         double const sweep = random.Between(0.3, 6.0);
-        Arc const arc = circle.Cut(0.0, sweep);
+        SpaceArc const arc = circle.Cut(0.0, sweep);
         TUVect3D const u = random.Direction();
         TUVect3D const v = random.Across(u);
         double const matrix[3][3] = {{u.x, u.y, u.z}, {v.x, v.y, v.z}, {0, 0, 0}};
@@ -123,7 +123,7 @@ TEST(ArcSeen, OddNumbersEnd)
 {
     Random random(33);
     for (int i = 0; i < 20000; ++i) {
-        Arc const arc = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
+        SpaceArc const arc = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
         double const matrix[3][3] = {
             {random.OddValue(), 0, random.OddValue()}, {0, random.OddValue(), 1}, {0, 0, 1}};
         int const code = AgainstRectangle(arc, random.OddValue(), 0, 1, random.OddValue(), matrix);

@@ -8,7 +8,7 @@
 
 namespace space {
 /// An arc as the kernel takes it.
-struct Arc
+struct SpaceArc
 {
     TUVect3D start;
     TUVect3D end;
@@ -17,7 +17,7 @@ struct Arc
 };
 
 /// The upper half circle over (0, 0, 0)-(2, 0, 0) in the plane z = 0, centre (1, 0, 0).
-inline Arc const kHalf = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), 1.0};
+inline SpaceArc const kHalf = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), 1.0};
 
 /// A circle with two perpendicular unit vectors; the arc runs from angle `from` over `sweep` (positive, below
 /// a full turn) from e1 toward e2.
@@ -36,7 +36,7 @@ struct Circle
 
     /// The bulge is tan(sweep / 4) and the arc vector points from the chord to the apex. `flipped` gives the
     /// same arc with a negative bulge and the arc vector turned round.
-    Arc Cut(double from, double sweep, bool flipped = false) const
+    SpaceArc Cut(double from, double sweep, bool flipped = false) const
     {
         TUVect3D const toApex = Minus(At(from + sweep / 2.0), centre);
         double const sign = flipped ? -1.0 : 1.0;
@@ -54,7 +54,7 @@ inline Circle RandomCircle(Random & random)
     return {centre, e1, e2, random.Between(0.5, 5.0)};
 }
 
-inline Arc Moved(RigidMotion const & motion, Arc const & arc)
+inline SpaceArc Moved(RigidMotion const & motion, SpaceArc const & arc)
 {
     return {motion(arc.start), motion(arc.end), motion.Turned(arc.arcVector), arc.bulge};
 }

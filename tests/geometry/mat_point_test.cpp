@@ -363,7 +363,7 @@ TEST_F(Mover, ArcsAreRebuiltFromThreePoints)
     for (int i = 0; i < 500; ++i) {
         Circle const circle = RandomCircle(random);
         double const sweep = random.Between(0.3, 5.5);
-        Arc const arc = circle.Cut(0.0, sweep);
+        SpaceArc const arc = circle.Cut(0.0, sweep);
         TSPlaneEdge3D edge = {arc.start, arc.end, arc.arcVector, arc.bulge, EDGE_ARC};
         TUVect3D centre = random.Point();
         TUVect3D axis = random.Direction();

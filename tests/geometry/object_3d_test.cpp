@@ -381,7 +381,7 @@ TEST_F(Objects, IntersectionOfArcs)
     EXPECT_EQ(count, 2);
     // On its own circle, over a quarter of it.
     Circle const circle = {P(1, 0, 0), P(1, 0, 0), P(0, 1, 0), 1.0};
-    Arc const part = circle.Cut(0.5, 1.0);
+    SpaceArc const part = circle.Cut(0.5, 1.0);
     other.CreateArc(part.start, part.end, part.arcVector, part.bulge);
     EXPECT_EQ(arc.IntersectionWithObject3D(&other, &count, points), 1);
     EXPECT_EQ(count, 3);

@@ -3,7 +3,7 @@
 using namespace space;
 
 namespace {
-int Where(Arc const & arc, TUVect3D const & p)
+int Where(SpaceArc const & arc, TUVect3D const & p)
 {
     CMathematics math;
     return math.IsPointOnExtendedArc(arc.start, arc.end, arc.arcVector, arc.bulge, p);
@@ -15,7 +15,7 @@ struct Along
     double distance;
 };
 
-Along Measure(Arc const & arc, TUVect3D const & p)
+Along Measure(SpaceArc const & arc, TUVect3D const & p)
 {
     CMathematics math;
     Along along = {0, -77.0};
@@ -31,7 +31,7 @@ struct Found
     int onCircle;
 };
 
-Found Cast(Arc const & arc, TUVect3D const & p)
+Found Cast(SpaceArc const & arc, TUVect3D const & p)
 {
     CMathematics math;
     Found f = {};
@@ -40,7 +40,7 @@ Found Cast(Arc const & arc, TUVect3D const & p)
     return f;
 }
 
-Found Tangents(Arc const & arc, TUVect3D const & p)
+Found Tangents(SpaceArc const & arc, TUVect3D const & p)
 {
     CMathematics math;
     Found f = {};
@@ -49,7 +49,7 @@ Found Tangents(Arc const & arc, TUVect3D const & p)
     return f;
 }
 
-Arc const kFlat = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), 9e-6};
+SpaceArc const kFlat = {P(0, 0, 0), P(2, 0, 0), P(0, 1, 0), 9e-6};
 }  // namespace
 
 TEST(PointOnExtendedArc, TellsArcFromCircle)
@@ -93,7 +93,7 @@ TEST(PointInArc, RefusesWhatIsOffTheArc)
 
 TEST(PointInArc, MeasuresPastHalfATurn)
 {
-    Arc const large = kUnitCircle.Cut(0.0, 1.9 * kPi);
+    SpaceArc const large = kUnitCircle.Cut(0.0, 1.9 * kPi);
     EXPECT_EQ(Measure(large, kUnitCircle.At(1.5 * kPi)).result, 1);
     EXPECT_NEAR(Measure(large, kUnitCircle.At(1.5 * kPi)).distance, 1.5 * kPi, 1e-9);
     EXPECT_EQ(Measure(large, kUnitCircle.At(1.95 * kPi)).result, 0);
@@ -121,7 +121,7 @@ TEST(PointInArc, AgreesWithTheAngleOfRandomArcs)
     for (int i = 0; i < 3000; ++i) {
         Circle const circle = RandomCircle(random);
         double const sweep = random.Between(0.2, 6.1);
-        Arc const arc = circle.Cut(0.5, sweep, random.Below(2) == 1);
+        SpaceArc const arc = circle.Cut(0.5, sweep, random.Below(2) == 1);
         double const ahead = random.Between(0.0, 2.0 * kPi);
         TUVect3D const p = circle.At(0.5 + ahead);
         bool const on = ahead <= sweep;
@@ -146,7 +146,7 @@ TEST(PointCastOnArc, GivesFeetOnTheArcWithTheirClasses)
     f = Cast(kHalf, P(1, -5, 0));
     EXPECT_EQ(f.count, 1);
     ExpectPoint(f.p[0], P(1, 1, 0));
-    Arc const large = kUnitCircle.Cut(0.0, 1.9 * kPi);
+    SpaceArc const large = kUnitCircle.Cut(0.0, 1.9 * kPi);
     f = Cast(large, P(0, 3, 1));
     EXPECT_EQ(f.count, 2);
     ExpectPoint(f.p[0], P(0, 1, 0));
@@ -157,7 +157,7 @@ TEST(PointCastOnArc, NoneFromTheAxisNorOffTheArc)
 {
     EXPECT_EQ(Cast(kHalf, P(1, 0, 7)).count, 0);
     EXPECT_EQ(Cast(kHalf, P(1, 0, 7)).pointClass[0], 0);
-    Arc const small = kUnitCircle.Cut(0.0, 0.5);
+    SpaceArc const small = kUnitCircle.Cut(0.0, 0.5);
     Found const f = Cast(small, P(0, 3, 0));
     EXPECT_EQ(f.count, 0);
     EXPECT_EQ(f.pointClass[0], 1);
@@ -181,7 +181,7 @@ TEST(PointCastOnArc, RandomFeetArePerpendicular)
     Random random(29);
     for (int i = 0; i < 2000; ++i) {
         Circle const circle = RandomCircle(random);
-        Arc const arc = circle.Cut(0.0, random.Between(0.2, 6.1), random.Below(2) == 1);
+        SpaceArc const arc = circle.Cut(0.0, random.Between(0.2, 6.1), random.Below(2) == 1);
         TUVect3D const p = Plus(circle.centre, random.Point(8.0));
         Found const f = Cast(arc, p);
         ASSERT_NE(f.pointClass[1], 0);
@@ -234,7 +234,7 @@ TEST(ArcTangents, RandomTangentsTouch)
     Random random(30);
     for (int i = 0; i < 2000; ++i) {
         Circle const circle = RandomCircle(random);
-        Arc const arc = circle.Cut(0.0, random.Between(0.2, 6.1));
+        SpaceArc const arc = circle.Cut(0.0, random.Between(0.2, 6.1));
         double const angle = random.Between(0, 2 * kPi);
         double const reach = random.Between(1.05, 5.0);
         TUVect3D const p = Plus(circle.centre, Times(reach, Minus(circle.At(angle), circle.centre)));
@@ -252,7 +252,7 @@ TEST(PointsAndArcs, OddNumbersEnd)
 {
     Random random(31);
     for (int i = 0; i < 20000; ++i) {
-        Arc const arc = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
+        SpaceArc const arc = {random.OddPoint(), random.OddPoint(), random.OddPoint(), random.OddValue()};
         TUVect3D const p = random.OddPoint();
         ASSERT_LE(std::abs(Where(arc, p)), 2);
         Measure(arc, p);

@@ -40,8 +40,8 @@ TEST(SpaceAllocations, ArcIntersectionsMakeNone)
 {
     CMathematics math;
     double const above[3][3] = {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}};
-    Arc const a = kHalf;
-    Arc const b = {P(1.2, 0, 0), P(3.2, 0, 0), P(0, 1, 0), 1.0};
+    SpaceArc const a = kHalf;
+    SpaceArc const b = {P(1.2, 0, 0), P(3.2, 0, 0), P(0, 1, 0), 1.0};
     TUVect3D p1;
     TUVect3D p2;
     double number;
