@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <limits>
+#include <span>
 #include <string_view>
 
 #include "foundation/name.h"
@@ -17,6 +18,23 @@ inline std::string_view TextOf(TSName const & name)
 {
     return {name.text, ::strnlen(name.text, sizeof name.text)};
 }
+
+/// Whether a text and number stand before a record in a table.
+inline bool IsBefore(std::string_view text, std::int32_t number, TSName const & other)
+{
+    int const order = text.compare(TextOf(other));
+    return order < 0 || (order == 0 && number < other.number);
+}
+
+/// The same the other way round.
+inline bool IsBefore(TSName const & name, std::string_view text, std::int32_t number)
+{
+    int const order = TextOf(name).compare(text);
+    return order < 0 || (order == 0 && name.number < number);
+}
+
+/// Whether no record stands before the one in front of it.
+bool IsInOrder(std::span<TSName const> names);
 
 /// The number behind a number.
 inline std::int32_t NextNumber(std::int32_t number)

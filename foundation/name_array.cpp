@@ -1,6 +1,8 @@
 // CNameArr: construction, looking up, filling boxes.
 #include "foundation/name_array.h"
 
+#include <algorithm>
+
 #include "foundation/detail_name_mark.h"
 #include "foundation/detail_name_record.h"
 #include "platform/base/combo_box.h"
@@ -15,15 +17,35 @@ bool IsSameName(TSName const & a, TSName const & b)
 }
 }  // namespace
 
+bool detail::IsInOrder(std::span<TSName const> names)
+{
+    for (std::size_t i = 1; i < names.size(); ++i)
+        if (IsBefore(TextOf(names[i]), names[i].number, names[i - 1]))
+            return false;
+    return true;
+}
+
 CNameArr::CNameArr()
 {
     m_actualName.SetNameStr(kFirstActualName, 1);
     m_workName = m_actualName;
 }
 
+/// How many names at the start of the table are known to stand before the given one: a walk from there on
+/// finds what a walk from the start finds. 0 for a table that isn't in order.
+int CNameArr::CountBefore(std::string_view text, std::int32_t number) const
+{
+    if (!m_isInOrder)
+        return 0;
+    auto const isBefore = [&](TSName const & entry) { return detail::IsBefore(entry, text, number); };
+    return static_cast<int>(std::partition_point(m_names.begin(), m_names.end(), isBefore) - m_names.begin());
+}
+
 int CNameArr::FindName(TSName name) const
 {
-    for (int i = 0; i < m_names.GetSize(); ++i)
+    int const first = CountBefore(detail::TextOf(name), name.number);
+    int const end = m_isInOrder ? std::min(first + 1, m_names.GetSize()) : m_names.GetSize();
+    for (int i = first; i < end; ++i)
         if (IsSameName(m_names[i], name))
             return i;
     return kNotFound;
@@ -41,7 +63,7 @@ int CNameArr::FindName(TSName name, int & position, int count)
     m_workName.SetName(name);
     TSName const sought = m_workName.GetName();
     std::string_view const text = detail::TextOf(sought);
-    for (int i = 0; i < m_names.GetSize(); ++i) {
+    for (int i = CountBefore(text, sought.number); i < m_names.GetSize(); ++i) {
         TSName const & entry = m_names[i];
         int const order = text.compare(detail::TextOf(entry));
         if (order == 0 && sought.number == entry.number)

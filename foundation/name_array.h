@@ -2,6 +2,7 @@
 #define KX7_FOUNDATION_NAME_ARRAY_H
 
 #include <cstdint>
+#include <string_view>
 
 #include "foundation/name.h"
 #include "platform/base/archive.h"
@@ -139,6 +140,7 @@ class KX7_API CNameArr
 
   private:
     int InsertName(TSName const & name, int position);
+    int CountBefore(std::string_view text, std::int32_t number) const;
     bool MoveBehindLast(TSName & name, int & position) const;
     bool IsInTable(int position) const { return position >= 0 && position < m_names.GetSize(); }
     int MarkDeletedNames();
@@ -148,6 +150,7 @@ class KX7_API CNameArr
     CName m_actualName;
     CName m_workName;
     CArray<std::int32_t, std::int32_t> m_handles;
+    bool m_isInOrder = true;  // false after AddNameDirect at a wrong place, or from a file
 };
 
 #endif

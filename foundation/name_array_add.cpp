@@ -1,5 +1,6 @@
 // CNameArr: entering names and looking for free ones.
 #include <algorithm>
+#include <limits>
 
 #include "foundation/detail_name_record.h"
 #include "foundation/name_array.h"
@@ -7,23 +8,17 @@
 namespace {
 constexpr int kRefused = -1;
 
-/// Position of the first entry whose text doesn't sort before the given one; the size if there is none.
-int FirstNotBefore(CArray<TSName, TSName> const & names, std::string_view text)
-{
-    int position = 0;
-    while (position < names.GetSize() && detail::TextOf(names[position]) < text)
-        ++position;
-    return position;
-}
 }  // namespace
 
 /// Enters a name at a position of the table and gives out its handle.
 int CNameArr::InsertName(TSName const & name, int position)
 {
     m_names.InsertAt(position, name);
+    int const first = std::max(position - 1, 0);
+    int const end = std::min(position + 2, m_names.GetSize());
+    m_isInOrder = m_isInOrder && detail::IsInOrder({m_names.begin() + first, m_names.begin() + end});
     for (std::int32_t & value : m_handles)
-        if (value >= position && value != detail::kHighestNumber)
-            ++value;
+        value += value >= position && value != detail::kHighestNumber ? 1 : 0;
     return m_handles.Add(position);
 }
 
@@ -96,7 +91,9 @@ int CNameArr::GetFirstFreeNameStr(CString & text, int count)
         return 1;
     TSName const sought = m_workName.GetName();
     std::string_view const textPart = detail::TextOf(sought);
-    int position = FirstNotBefore(m_names, textPart);
+    int position = CountBefore(textPart, std::numeric_limits<std::int32_t>::min());
+    while (position < m_names.GetSize() && detail::TextOf(m_names[position]) < textPart)
+        ++position;
     if (position == m_names.GetSize() || detail::TextOf(m_names[position]) != textPart)
         return 1;
     std::int64_t number = sought.number;

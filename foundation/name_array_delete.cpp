@@ -86,5 +86,6 @@ int CNameArr::NameFullCompress()
 {
     m_handles.RemoveAll();
     m_names.RemoveAll();
+    m_isInOrder = true;
     return 1;
 }

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <vector>
 
+#include "foundation/detail_name_record.h"
 #include "foundation/name_array.h"
 
 namespace {
@@ -77,6 +78,7 @@ int CNameArr::GetNameArr(void * other) const
         return 0;
     to->m_names.Copy(m_names);
     to->m_handles.Copy(m_handles);
+    to->m_isInOrder = m_isInOrder;
     return 1;
 }
 
@@ -121,6 +123,7 @@ int CNameArr::ReadElements(CArchive & archive)
     m_actualName.SetName(actualName.name);
     m_workName.SetName(workName.name);
     m_names.Copy(names);
+    m_isInOrder = detail::IsInOrder(names.View());
     if (count > 0)
         m_handles.Copy(handles);
     return 1;

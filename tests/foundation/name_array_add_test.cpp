@@ -190,6 +190,25 @@ TEST(NameArrayAddDirect, FreshTableTakesItsActualName)
     EXPECT_THAT(Texts(names), ElementsAre("name"));
 }
 
+// The names behind a4 are entered in front of "b" though they belong behind it, so the search for "c1" ends
+// at "z8".
+TEST(NameArrayAddDirect, NameAtAWrongPlaceIsntLookedBehind)
+{
+    OpenNameArray names;
+    Add(names, {"a", "b", "c1"});
+    names.IsFeeName(NameRecord("a", 4), 1);
+    names.SetActNameStr("z8");
+    EXPECT_EQ(names.AddNameDirect(), 3);
+    EXPECT_THAT(Texts(names), ElementsAre("a", "z8", "b", "c1"));
+    int position = 99;
+    EXPECT_EQ(names.FindName(NameRecord("c", 1), position, 1), -1);
+    EXPECT_EQ(position, 1);
+    EXPECT_EQ(names.FindName(NameRecord("c", 1)), 3);
+    EXPECT_EQ(FirstFree(names, "c1", 1), "c1");
+    EXPECT_EQ(names.DeleteNameByPos(1), 1);
+    EXPECT_EQ(names.FindName(CString("c1")), 2);
+}
+
 TEST(NameArrayAddDirect, NextPositionBeyondTheTableIsRefused)
 {
     CNameArr names;

@@ -264,6 +264,35 @@ TEST(NameArrayFile, ForgedHandlesAreNeverLive)
     EXPECT_THAT(Handles(names), ElementsAre(highest, lowest, -1, -99, -1500000, 0));
 }
 
+// A walk from the start ends at the first entry behind the sought name, so it never comes to the others.
+TEST(NameArrayFile, TableThatIsntInOrderIsWalkedFromItsStart)
+{
+    OpenNameArray names;
+    ASSERT_EQ(ReadInto(names, BlockStart()
+                                  .Int(3)
+                                  .Field("c", 12)
+                                  .Int(1)
+                                  .Field("a", 12)
+                                  .Int(1)
+                                  .Field("b", 12)
+                                  .Int(1)
+                                  .Int(3)
+                                  .Int(0)
+                                  .Int(1)
+                                  .Int(2)),
+              1);
+    EXPECT_EQ(names.FindName(NameRecord("b", 1)), 2);
+    EXPECT_EQ(names.FindName(NameRecord("b", 2)), -1);
+    int position = 99;
+    EXPECT_EQ(names.FindName(NameRecord("b", 1), position, 1), -1);
+    EXPECT_EQ(position, 0);
+    EXPECT_EQ(names.FindName(NameRecord("d", 1), position, 1), -1);
+    EXPECT_EQ(position, 3);
+    CString text("a1");
+    names.GetFirstFreeNameStr(text, 1);
+    EXPECT_EQ(text, "a1");  // the first entry not before "a" is "c1"
+}
+
 TEST(NameArrayFile, NamesWithoutTerminatorReadTheirTwelveBytes)
 {
     CNameArr names;
