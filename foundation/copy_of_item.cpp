@@ -10,7 +10,7 @@ std::unique_ptr<CVARDObject> CopyOfItem(CObject * item)
     auto * const copy = dynamic_cast<CVARDObject *>(made.get());
     if (!copy)
         return nullptr;
-    made.release();
+    static_cast<void>(made.release());
     copy->CopyObject(from);
     return std::unique_ptr<CVARDObject>(copy);
 }

@@ -108,7 +108,7 @@ int CName::IsNameValid(CString text)
 
 CString CName::GetNameKey() const
 {
-    CString const text(detail::TextOf(m_name));
+    CString text(detail::TextOf(m_name));
     if (m_name.number < 0)
         return text;
     return text + CVARDString().Str(m_name.number, -1, 0).FillSpacesLeft(kKeyNumberWidth, 0).GetCS();

@@ -67,7 +67,8 @@ POSITION CVARDObList::AddObject(CVARDObject * object)
 
 int CVARDObList::DeleteObject(POSITION position)
 {
-    if (!position || !GetAt(position))
+    CObject const * const object = position ? GetAt(position) : nullptr;
+    if (!object)
         return 0;
     if (position == m_activePosition) {
         POSITION next = position;
@@ -76,8 +77,8 @@ int CVARDObList::DeleteObject(POSITION position)
         GetPrev(previous);
         m_activePosition = next ? next : previous;
     }
-    delete GetAt(position);
     RemoveAt(position);
+    delete object;
     return 1;
 }
 
@@ -100,7 +101,7 @@ int CVARDObList::CopyList(CVARDObList * from)
         POSITION const added = copy ? AddTailOrReport(copy.get()) : nullptr;
         if (!added)
             continue;
-        copy.release();
+        static_cast<void>(copy.release());
         if (isActive)
             m_activePosition = added;
     }

@@ -175,7 +175,7 @@ POSITION CVARDSectionList::EditSection(POSITION const position, CVARDSectionObj 
     DeleteSection(position);
     POSITION const added = AddSection(section, cancelled);
     if (added)
-        copy.release();
+        static_cast<void>(copy.release());
     return added;
 }
 
