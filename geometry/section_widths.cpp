@@ -30,8 +30,7 @@ class WidthWalk
             return;
         double const v = to.y - m_height;
         bool const above = v >= 0.0;
-        if (above != m_above)
-        {
+        if (above != m_above) {
             double const x = (to - v / side.y * side).x;
             m_width += above ? x : -x;
         }
