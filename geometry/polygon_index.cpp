@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "geometry/detail_plane_elements.h"
+#include "geometry/detail_point_class.h"
 
 namespace detail {
 namespace {
@@ -82,6 +82,16 @@ PlaneBox BoxOf(std::array<TUVect2D, 4> const & corners)
     return box;
 }
 
+PointOnSide AgainstSide(CMathematics & math, TUVect2D const & p, IndexedSide const & indexed,
+                        double tolerance)
+{
+    AreaSide const & side = indexed.side;
+    if (!side.isArc)
+        return AgainstStraightSide(p, side, indexed.length, tolerance);
+    return {Length(p - side.from) < tolerance || Length(p - side.to) < tolerance,
+            math.IsPointOnArc(p, side.from, side.to, side.bulge) == 1};
+}
+
 bool IsSupportedArc(AreaSide const & side)
 {
     double const bulge = std::fabs(side.bulge);
@@ -108,7 +118,7 @@ bool PolygonIndex::ReadSides(CMathematics & math, Area const & area)
     int elements = 0;
     SideWalk sides = ClosingSideLast(area.View());
     while (auto const side = sides.Next()) {
-        IndexedSide indexed = {*side, {}, {}, 0.0, 0.0, -1};
+        IndexedSide indexed = {*side, {}, {}, 0.0, std::sqrt(Square(side->from, side->to)), 0.0, -1};
         if (side->isArc) {
             double absBulge = 0.0;
             if (!IsSupportedArc(*side) ||
@@ -123,8 +133,8 @@ bool PolygonIndex::ReadSides(CMathematics & math, Area const & area)
         m_sides.push_back(indexed);
         m_reach.Add(BoxOf(HullOf(indexed)));
     }
-    // The elements of a clockwise polygon run against its sides.
-    if (!(math.GetAreaSurface(&area) > 0.0))
+    m_isReversed = !(math.GetAreaSurface(&area) > 0.0);
+    if (m_isReversed)
         for (IndexedSide & indexed : m_sides)
             indexed.element = indexed.element >= 0 ? elements - 1 - indexed.element : -1;
     return true;
@@ -202,7 +212,7 @@ bool PolygonIndex::IsClearOfAll(PlaneBox const & box) const
            box.highY < reach.lowY;
 }
 
-TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3]) const
+TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & near) const
 {
     PlaneBox box;
     for (TUVect2D const & corner : corners)
@@ -221,18 +231,22 @@ TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3]) const
         case PolygonGrid::Answer::kOutside:
             return TrianglePlace::kOutside;
         default:
-            return PlaceBySides(box, corners);
+            return PlaceBySides(box, corners, near);
     }
 }
 
-TrianglePlace PolygonIndex::PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3]) const
+TrianglePlace PolygonIndex::PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3],
+                                         std::vector<std::size_t> & near) const
 {
-    bool isClear = true;
-    ForEachNear(box, TriangleFigure({corners[0], corners[1], corners[2]}), [&](std::size_t) {
-        isClear = false;
-        return false;
-    });
-    if (!isClear)
+    TriangleFigure const triangle({corners[0], corners[1], corners[2]});
+    near.clear();
+    m_tree.ForEach([&box](PlaneBox const & sides) { return sides.Meets(box); },
+                   [&](std::size_t ordinal) {
+                       if (!IsClearOf(ordinal, triangle))
+                           near.push_back(ordinal);
+                       return true;
+                   });
+    if (!near.empty())
         return TrianglePlace::kUndecided;
     return WindingNumber(corners[0]) != 0 ? TrianglePlace::kInside : TrianglePlace::kOutside;
 }
@@ -251,11 +265,9 @@ std::optional<int> PolygonIndex::ClassOnBoundary(CMathematics & math, TUVect2D c
     bool onEdge = false;
     m_tree.ForEach([&p](PlaneBox const & box) { return box.Holds(p.x, p.y); },
                    [&](std::size_t ordinal) {
-                       AreaSide const & side = m_sides[ordinal].side;
-                       onVertex = Length(p - side.from) < tolerance || Length(p - side.to) < tolerance;
-                       onEdge =
-                           onEdge || (side.isArc ? math.IsPointOnArc(p, side.from, side.to, side.bulge) == 1
-                                                 : IsPointOnStraightSide(p, side.from, side.to, tolerance));
+                       PointOnSide const found = AgainstSide(math, p, m_sides[ordinal], tolerance);
+                       onVertex = found.onVertex;
+                       onEdge = onEdge || found.onEdge;
                        return !onVertex;
                    });
     if (onVertex)
@@ -263,9 +275,8 @@ std::optional<int> PolygonIndex::ClassOnBoundary(CMathematics & math, TUVect2D c
     return onEdge ? std::optional<int>(kPointOnEdge) : std::nullopt;
 }
 
-// The sum of the turns of all sides is a whole number of full turns, since the outline ends where it begins.
-// A direction angle runs from straight down once round, so only sides across the line down from `p`, and arcs
-// beside `p`, add to the number.
+// Only sides across the line down from `p`, where the direction angles begin and end, and arcs beside `p` add
+// to the number.
 int PolygonIndex::WindingNumber(TUVect2D const & p) const
 {
     int turns = 0;
@@ -278,8 +289,6 @@ int PolygonIndex::WindingNumber(TUVect2D const & p) const
     return turns;
 }
 
-// What a side's turn, brought to the range of half a turn both ways and taken round an arc, differs by from
-// the plain difference of its direction angles, in full turns.
 int PolygonIndex::TurnsOf(std::size_t ordinal, TUVect2D const & p) const
 {
     IndexedSide const & indexed = m_sides[ordinal];
@@ -287,11 +296,12 @@ int PolygonIndex::TurnsOf(std::size_t ordinal, TUVect2D const & p) const
     TUVect2D const to = indexed.side.to - p;
     if (m_tree[ordinal].highY < p.y)
         return static_cast<int>(from.x < 0.0) - static_cast<int>(to.x < 0.0);
+    if (!indexed.side.isArc)
+        return FullTurnsBetween(from, to);
     double const fromAngle = DirectionAngle(from);
     double const toAngle = DirectionAngle(to);
-    double turn = TurnBetween(fromAngle, toAngle);
-    if (indexed.side.isArc)
-        turn = ArcTurn(p, indexed.side, indexed.centre, indexed.radius, indexed.toApex, turn);
+    double const turn = ArcTurn(p, indexed.side, indexed.centre, indexed.radius, indexed.toApex,
+                                TurnBetween(fromAngle, toAngle));
     return static_cast<int>(std::lround((turn - (toAngle - fromAngle)) / (2.0 * std::numbers::pi)));
 }
 }  // namespace detail

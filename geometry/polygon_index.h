@@ -37,6 +37,7 @@ struct IndexedSide
     TUVect2D centre;  ///< Of an arc, as the kernel computes it.
     TUVect2D toApex;  ///< Of an arc: unit vector from the chord to its apex.
     double radius;    ///< Of an arc.
+    double length;    ///< Of the side, or of an arc's chord.
     double slack;
     int element;  ///< Index in the oriented elements of the polygon, -1 for a side left out of them.
 };
@@ -49,6 +50,9 @@ class PolygonIndex
 
     bool HasArcs() const { return m_hasArcs; }
 
+    /// Whether the oriented elements run against the sides.
+    bool IsReversed() const { return m_isReversed; }
+
     /// Whether the index holds for the kernel's tolerance of the moment. With one that is rounding against
     /// the coordinates the kernel finds no place on its own sides.
     bool Serves(CMathematics & math) const
@@ -56,23 +60,24 @@ class PolygonIndex
         return math.GetOkoli() <= m_okoli && math.GetOkoli() >= m_smallestOkoli;
     }
 
-    /// Where a triangle lies, if it is clear of all sides. An unserved one has to be taken the plain way.
-    TrianglePlace PlaceOf(TUVect2D const (&corners)[3]) const;
+    /// Where a triangle lies, if it is clear of all sides. For an undecided one `near` becomes the ordinals
+    /// of the sides that may have something in common with it, in order. An unserved one has to be taken the
+    /// plain way.
+    TrianglePlace PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & near) const;
+
+    /// Whether a side has nothing in common with a figure that lies in the range served.
+    template <class Figure>
+    bool IsClearOf(std::size_t ordinal, Figure const & figure) const
+    {
+        double const slack = m_sides[ordinal].slack;
+        return m_hulls[ordinal].SeparatesFrom(figure, slack) || figure.SeparatesFrom(m_hulls[ordinal], slack);
+    }
 
     /// The class of `p` as by CMathematics::IsPointInArea, within the range served.
     int ClassOf(CMathematics & math, TUVect2D const & p) const;
 
     /// Whether a polygon without arcs turns round `p`, as the sum of its turns tells it.
     bool TurnsRound(TUVect2D const & p) const { return WindingNumber(p) != 0; }
-
-    /// Calls `visit` with the ordinals of the sides that may have something in common with a figure in `box`,
-    /// in order, until it gives false.
-    template <class Figure, class Visit>
-    void ForEachNear(PlaneBox const & box, Figure const & figure, Visit const & visit) const
-    {
-        m_tree.ForEach([&box](PlaneBox const & sides) { return sides.Meets(box); },
-                       [&](std::size_t ordinal) { return IsClearOf(ordinal, figure) || visit(ordinal); });
-    }
 
     IndexedSide const & Side(std::size_t ordinal) const { return m_sides[ordinal]; }
 
@@ -84,16 +89,9 @@ class PolygonIndex
     void BuildTree();
     void BuildGrid(CMathematics & math);
     bool IsNear(PlaneBox const & box) const;
-
-    template <class Figure>
-    bool IsClearOf(std::size_t ordinal, Figure const & figure) const
-    {
-        double const slack = m_sides[ordinal].slack;
-        return m_hulls[ordinal].SeparatesFrom(figure, slack) || figure.SeparatesFrom(m_hulls[ordinal], slack);
-    }
-
     bool IsClearOfAll(PlaneBox const & box) const;
-    TrianglePlace PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3]) const;
+    TrianglePlace PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3],
+                               std::vector<std::size_t> & near) const;
     std::optional<int> ClassOnBoundary(CMathematics & math, TUVect2D const & p) const;
     int WindingNumber(TUVect2D const & p) const;
     int TurnsOf(std::size_t ordinal, TUVect2D const & p) const;
@@ -110,6 +108,7 @@ class PolygonIndex
     double m_largest = 0.0;  // largest coordinate, without sign
     double m_smallestRadius = 0.0;
     bool m_hasArcs = false;
+    bool m_isReversed = false;
 };
 }  // namespace detail
 

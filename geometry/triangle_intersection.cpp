@@ -1,55 +1,86 @@
 #include "geometry/triangle_intersection.h"
 
 #include <algorithm>
-#include <numeric>
 
-#include "geometry/detail_plain_cut_kernel.h"
+#include "geometry/detail_embedded_cut_kernel.h"
+#include "geometry/detail_point_class.h"
 
 namespace detail {
 namespace {
-/// The geometry of a cut where the class of a point comes from the index.
-class IndexedCutKernel : public PlainCutKernel
+/// The geometry of cutting a side of the triangle at the polygon.
+class PolygonCutKernel : public EmbeddedCutKernel
 {
   public:
-    IndexedCutKernel(CMathematics & math, Area const & area, PolygonIndex const & index)
-        : PlainCutKernel(math, area), m_math(math), m_index(index)
+    PolygonCutKernel(CMathematics & math, TSelem const & e, PolygonIndex const & index)
+        : EmbeddedCutKernel(math, e), m_index(index)
     {
     }
 
-    int ClassOf(TUVect2D const & p) { return m_index.ClassOf(m_math, p); }
+    int ClassOf(TUVect2D const & p) { return m_index.ClassOf(Math(), p); }
 
   private:
-    CMathematics & m_math;
     PolygonIndex const & m_index;
 };
 
-PlaneBox BoxOf(TSelem const & side)
+/// The geometry of cutting an element of the polygon at the triangle.
+class TriangleCutKernel : public EmbeddedCutKernel
 {
-    PlaneBox box;
-    box.Add(side.start.x, side.start.y);
-    box.Add(side.end.x, side.end.y);
-    return box;
-}
+  public:
+    TriangleCutKernel(CMathematics & math, TSelem const & e, TriangleSides const & sides)
+        : EmbeddedCutKernel(math, e), m_sides(sides)
+    {
+    }
+
+    int ClassOf(TUVect2D const & p)
+    {
+        bool onEdge = false;
+        int turns = 0;
+        for (TriangleSide const & s : m_sides) {
+            PointOnSide const found = AgainstStraightSide(p, s.side, s.length, Math().GetOkoli());
+            if (found.onVertex)
+                return kPointOnVertex;
+            onEdge = onEdge || found.onEdge;
+            turns += FullTurnsBetween(s.side.from - p, s.side.to - p);
+        }
+        if (onEdge)
+            return kPointOnEdge;
+        return turns != 0 ? kPointInside : kPointOutside;
+    }
+
+  private:
+    TriangleSides const & m_sides;
+};
 }  // namespace
 
 int TriangleIntersection::Run(Area const & triangle, GeneralSetArray *& result)
 {
-    m_triangle = &triangle;
+    ReadTriangle(triangle);
     ContactFlags ofTriangle;
     if (!CutTriangle(ofTriangle))
         return kNoCommonArea;
     // A polygon within the triangle that touches none of its sides isn't looked for.
     if (!ofTriangle.anyContact)
-        return IsInside(VertexOf(triangle[0])) ? kWholeTriangle : kNoCommonArea;
+        return IsInside(m_sides[0].side.from) ? kWholeTriangle : kNoCommonArea;
     if (!ofTriangle.someOutside || ofTriangle.allOnBoundary)
         return kWholeTriangle;
 
     ContactFlags ofPolygon;
-    if (!CutPolygon(ofPolygon))
+    m_work.polygonPieces.Clear();
+    if (!(m_index ? CutPolygon(ofPolygon) : CutPolygonPlainly(triangle, ofPolygon)))
         return kNoCommonArea;
     if (!ofPolygon.someOutside)
         return ReturnCopy(m_points, kPartOfTriangle, result);
     return Assemble(result);
+}
+
+void TriangleIntersection::ReadTriangle(Area const & triangle)
+{
+    for (int i = 0; i < 3; ++i) {
+        TUVect2D const from = VertexOf(triangle[i]);
+        TUVect2D const to = VertexOf(triangle[i + 1]);
+        m_sides[static_cast<std::size_t>(i)] = {
+            {from, to, 0.0, false}, SegmentFigure({from, to}), std::hypot(to.x - from.x, to.y - from.y)};
+    }
 }
 
 bool TriangleIntersection::CutTriangle(ContactFlags & flags)
@@ -57,74 +88,77 @@ bool TriangleIntersection::CutTriangle(ContactFlags & flags)
     PlainCutter cutter(m_math, m_points);
     TSelem piece{};
     m_work.trianglePieces.Clear();
-    for (int i = 0; i < 3; ++i) {
-        TSelem const side{EDGE_LINE, kUnsetMark, VertexOf((*m_triangle)[i]), VertexOf((*m_triangle)[i + 1]),
-                          0.0};
-        int const cut = CutSide(side);
+    for (TriangleSide const & s : m_sides) {
+        TSelem const e{EDGE_LINE, kUnsetMark, s.side.from, s.side.to, 0.0};
+        int const cut = m_index ? CutSide(e, s.figure) : cutter.Cut(0, e, m_work.intervals);
         flags.Add(cut);
-        if (cut != 0 && !AddPieces(cutter, side, m_work.intervals, piece, m_work.trianglePieces))
+        if (cut != 0 && !AddPieces(cutter, e, m_work.intervals, piece, m_work.trianglePieces))
             return false;
     }
     return true;
 }
 
-int TriangleIntersection::CutSide(TSelem const & side)
+int TriangleIntersection::CutSide(TSelem const & e, SegmentFigure const & figure)
 {
-    if (!m_index)
-        return m_math.EdgeAreaIntersection(side, m_points, 0, m_work.intervals);
-    IndexedCutKernel kernel(m_math, m_points, *m_index);
-    ElementCut<IndexedCutKernel> cut(kernel, side, m_math.GetOkoli(), m_work.contacts, m_work.intervals);
-    int settled = 0;
-    m_index->ForEachNear(BoxOf(side), SegmentFigure({side.start, side.end}), [&](std::size_t ordinal) {
-        AreaSide const & other = m_index->Side(ordinal).side;
-        if (!kernel.Same(other.from, other.to))
-            settled = cut.Meet(ElementOf(other), static_cast<int>(ordinal));
-        return settled == 0;
-    });
-    return settled != 0 ? settled : cut.Finish();
+    PolygonCutKernel kernel(m_math, e, *m_index);
+    ElementCut<PolygonCutKernel> cut(kernel, e, m_math.GetOkoli(), m_work.contacts, m_work.intervals);
+    for (std::size_t const ordinal : m_work.near) {
+        AreaSide const & side = m_index->Side(ordinal).side;
+        if (m_index->IsClearOf(ordinal, figure) || kernel.Same(side.from, side.to))
+            continue;
+        if (int const settled = cut.Meet(ElementOf(side), static_cast<int>(ordinal)))
+            return settled;
+    }
+    return cut.Finish();
 }
 
 bool TriangleIntersection::CutPolygon(ContactFlags & flags)
 {
-    PlainCutter cutter(m_math, *m_triangle);
-    TSelem piece{};
-    m_work.polygonPieces.Clear();
-    FindNearElements();
-    if (m_work.nearElements.size() < static_cast<std::size_t>(m_elements.GetSize()))
-        flags.Add(0);
-    for (std::size_t const i : m_work.nearElements) {
-        TSelem const & element = m_elements[static_cast<int>(i)];
-        int const cut = cutter.Cut(i, element, m_work.intervals);
-        flags.Add(cut);
-        if (cut != 0 && !AddPieces(cutter, element, m_work.intervals, piece, m_work.polygonPieces))
+    // The elements of a clockwise polygon run against its sides.
+    if (m_index->IsReversed())
+        std::reverse(m_work.near.begin(), m_work.near.end());
+    int met = 0;
+    for (std::size_t const ordinal : m_work.near) {
+        int const element = m_index->Side(ordinal).element;
+        if (element < 0)
+            continue;
+        ++met;
+        TSelem const & e = m_elements[element];
+        if (!AddPolygonPieces(e, CutElement(e, ordinal), flags))
             return false;
     }
+    if (met < m_elements.GetSize())
+        flags.Add(0);
     return true;
 }
 
-void TriangleIntersection::FindNearElements()
+int TriangleIntersection::CutElement(TSelem const & e, std::size_t ordinal)
 {
-    m_work.nearElements.clear();
-    if (!m_index) {
-        m_work.nearElements.resize(static_cast<std::size_t>(m_elements.GetSize()));
-        std::iota(m_work.nearElements.begin(), m_work.nearElements.end(), std::size_t{0});
-        return;
+    TriangleCutKernel kernel(m_math, e, m_sides);
+    ElementCut<TriangleCutKernel> cut(kernel, e, m_math.GetOkoli(), m_work.contacts, m_work.intervals);
+    for (std::size_t i = 0; i < m_sides.size(); ++i) {
+        if (m_index->IsClearOf(ordinal, m_sides[i].figure))
+            continue;
+        if (int const settled = cut.Meet(ElementOf(m_sides[i].side), static_cast<int>(i)))
+            return settled;
     }
-    std::array<TUVect2D, 3> corners;
-    PlaneBox box;
-    for (int i = 0; i < 3; ++i) {
-        TUVect2D const & corner = corners[static_cast<std::size_t>(i)] = VertexOf((*m_triangle)[i]);
-        box.Add(corner.x, corner.y);
-    }
-    m_index->ForEachNear(box, TriangleFigure(corners), [&](std::size_t ordinal) {
-        int const element = m_index->Side(ordinal).element;
-        if (element >= 0)
-            m_work.nearElements.push_back(static_cast<std::size_t>(element));
-        return true;
-    });
-    // The elements of a clockwise polygon stand the other way round.
-    if (m_work.nearElements.size() > 1 && m_work.nearElements.front() > m_work.nearElements.back())
-        std::reverse(m_work.nearElements.begin(), m_work.nearElements.end());
+    return cut.Finish();
+}
+
+bool TriangleIntersection::CutPolygonPlainly(Area const & triangle, ContactFlags & flags)
+{
+    for (TSelem const & e : m_elements)
+        if (!AddPolygonPieces(e, m_math.EdgeAreaIntersection(e, triangle, 0, m_work.intervals), flags))
+            return false;
+    return true;
+}
+
+bool TriangleIntersection::AddPolygonPieces(TSelem const & e, int cut, ContactFlags & flags)
+{
+    PlainCutter cutter(m_math, m_points);
+    TSelem piece{};
+    flags.Add(cut);
+    return cut == 0 || AddPieces(cutter, e, m_work.intervals, piece, m_work.polygonPieces);
 }
 
 bool TriangleIntersection::IsInside(TUVect2D const & p) const

@@ -4,6 +4,7 @@
 // The intersection of one triangle with a prepared polygon, from the pieces of both boundaries to the
 // outlines.
 
+#include <array>
 #include <vector>
 
 #include "geometry/detail_plain_pieces.h"
@@ -25,14 +26,24 @@ struct TriangleWork
     PlainPieces polygonPieces;
     IntervalArray intervals;
     std::vector<TSInterval> contacts;
-    std::vector<std::size_t> nearElements;  // polygon elements that may touch the triangle
+    std::vector<std::size_t> near;  ///< Ordinals of the polygon's sides that may touch the triangle.
 };
+
+/// A side of the triangle.
+struct TriangleSide
+{
+    AreaSide side;
+    SegmentFigure figure;
+    double length;
+};
+
+using TriangleSides = std::array<TriangleSide, 3>;
 
 class TriangleIntersection
 {
   public:
-    /// `elements` are the sides of `points` with the interior on their left. Without an `index` every side is
-    /// put to every other.
+    /// `elements` are the sides of `points` with the interior on their left. With an `index` only the sides
+    /// that `work.near` lists are put to the triangle, without one every side.
     TriangleIntersection(CMathematics & math, Area const & points, CArray<TSelem, TSelem &> const & elements,
                          PolygonIndex const * index, TriangleWork & work)
         : m_math(math), m_points(points), m_elements(elements), m_index(index), m_work(work)
@@ -43,10 +54,13 @@ class TriangleIntersection
     int Run(Area const & triangle, GeneralSetArray *& result);
 
   private:
+    void ReadTriangle(Area const & triangle);
     bool CutTriangle(ContactFlags & flags);
     bool CutPolygon(ContactFlags & flags);
-    int CutSide(TSelem const & side);
-    void FindNearElements();
+    bool CutPolygonPlainly(Area const & triangle, ContactFlags & flags);
+    int CutSide(TSelem const & e, SegmentFigure const & figure);
+    int CutElement(TSelem const & e, std::size_t ordinal);
+    bool AddPolygonPieces(TSelem const & e, int cut, ContactFlags & flags);
     bool IsInside(TUVect2D const & p) const;
     int Assemble(GeneralSetArray *& result);
 
@@ -55,7 +69,7 @@ class TriangleIntersection
     CArray<TSelem, TSelem &> const & m_elements;
     PolygonIndex const * m_index;
     TriangleWork & m_work;
-    Area const * m_triangle = nullptr;
+    TriangleSides m_sides{};
 };
 }  // namespace detail
 
