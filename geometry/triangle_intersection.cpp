@@ -163,6 +163,8 @@ bool TriangleIntersection::AddPolygonPieces(TSelem const & e, int cut, ContactFl
 
 bool TriangleIntersection::IsInside(TUVect2D const & p) const
 {
+    if (m_index)
+        return m_index->ClassOf(m_math, p) == kPointInside;
     int pointClass = kPointInside;
     m_math.IsPointInArea(p, &m_points, 0, pointClass);
     return pointClass == kPointInside;
