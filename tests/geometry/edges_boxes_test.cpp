@@ -86,12 +86,12 @@ TEST(IsIntersectionOfBlock, LooksAtAllThreeAxes)
     TS3DBlock touching = Box(At(2, 2, 2), At(3, 3, 3));
     EXPECT_EQ(math.IsIntersectionOfBlock(&a, &touching), 1);
     for (int axis = 0; axis < 3; ++axis) {
-        TS3DBlock near = touching;
-        near.min.a[axis] = 2.0 + 0.9e-6;
-        EXPECT_EQ(math.IsIntersectionOfBlock(&a, &near), 1);
-        near.min.a[axis] = 2.0 + 1.1e-6;
-        EXPECT_EQ(math.IsIntersectionOfBlock(&a, &near), 0);
-        EXPECT_EQ(math.IsIntersectionOfBlock(&near, &a), 0);
+        TS3DBlock beside = touching;
+        beside.min.a[axis] = 2.0 + 0.9e-6;
+        EXPECT_EQ(math.IsIntersectionOfBlock(&a, &beside), 1);
+        beside.min.a[axis] = 2.0 + 1.1e-6;
+        EXPECT_EQ(math.IsIntersectionOfBlock(&a, &beside), 0);
+        EXPECT_EQ(math.IsIntersectionOfBlock(&beside, &a), 0);
     }
 }
 

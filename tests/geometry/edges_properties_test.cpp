@@ -134,7 +134,7 @@ TEST(EdgeIntersectionProperty, QuickRejectionsChangeNoResultBesideTheTolerance)
     int hits = 0;
     int misses = 0;
     for (int i = 0; i < 60000; ++i) {
-        double const far = i % 2 ? 0.0 : 1e4;
+        double const away = i % 2 ? 0.0 : 1e4;
         TSPlaneEdge3D a = FreeEdge(random);
         TSPlaneEdge3D b = FreeEdge(random);
         TUVect3D touch;
@@ -144,9 +144,9 @@ TEST(EdgeIntersectionProperty, QuickRejectionsChangeNoResultBesideTheTolerance)
         TUVect3D const move =
             Combined(touch, -1.0, b.start, share(random) * 1e-7, At(1, 1, i % 3 ? 0.0 : 1.0));
         for (TUVect3D * point : {&b.start, &b.end})
-            *point = Combined(*point, 1.0, move, far, At(1, 0, 0));
+            *point = Combined(*point, 1.0, move, away, At(1, 0, 0));
         for (TUVect3D * point : {&a.start, &a.end})
-            point->x += far;
+            point->x += away;
         Edges quick;
         quick.result = math.EdgeIntersection(&a, &b, quick.array, quick.count, quick.how);
         detail::EdgeSet plain;

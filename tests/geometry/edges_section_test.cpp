@@ -131,9 +131,9 @@ TEST(HarmonyEdge, EqualDistancesAndPointsChangeNothing)
     EXPECT_EQ(math.HarmonyEdge(&a, &b), 1);
     EXPECT_EQ(b.start.y, 1.0);
     TSPlaneEdge3D point = Point(At(0, 0));
-    TSPlaneEdge3D far = Line(At(5, 0), At(1, 0));
-    EXPECT_EQ(math.HarmonyEdge(&point, &far), 1);
-    EXPECT_EQ(far.start.x, 5.0);
+    TSPlaneEdge3D distant = Line(At(5, 0), At(1, 0));
+    EXPECT_EQ(math.HarmonyEdge(&point, &distant), 1);
+    EXPECT_EQ(distant.start.x, 5.0);
 }
 
 // ---- sections -------------------------------------------------------------------------------------------

@@ -110,11 +110,11 @@ TEST(SectionTable, HorizontalSideWithinGetsALevelOnBothSides)
     Outline const outline = shapes::Closed({Point(-1, -5), Point(1, -5), Point(1, 3), Point(4, 3),
                                             Point(4, 5), Point(-4, 5), Point(-4, 3), Point(-1, 3)});
     std::vector<double> const heights = Heights(outline);
-    std::vector<double> near;
+    std::vector<double> beside;
     for (double const y : heights)
         if (std::fabs(y - 3.0) < 1e-6)
-            near.push_back(y);
-    EXPECT_EQ(near, (std::vector<double>{3.0 + 0.1 / 1e10, 3.0 - 0.1 / 1e10}));
+            beside.push_back(y);
+    EXPECT_EQ(beside, (std::vector<double>{3.0 + 0.1 / 1e10, 3.0 - 0.1 / 1e10}));
     EXPECT_GE(heights.size(), 101u);
 }
 
