@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "dxf/detail_dxf_walk.h"
@@ -125,7 +126,8 @@ bool CDXFInBasic::ReadLine()
 {
     if (!m_archive || !m_archive->ReadString(m_data))
         return false;
-    ++m_lineCounter;
+    if (m_lineCounter < std::numeric_limits<std::int32_t>::max())
+        ++m_lineCounter;
     return true;
 }
 
