@@ -212,7 +212,7 @@ bool PolygonIndex::IsClearOfAll(PlaneBox const & box) const
            box.highY < reach.lowY;
 }
 
-TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & near) const
+TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & nearby) const
 {
     PlaneBox box;
     for (TUVect2D const & corner : corners)
@@ -231,22 +231,22 @@ TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3], std::vector<st
         case PolygonGrid::Answer::kOutside:
             return TrianglePlace::kOutside;
         default:
-            return PlaceBySides(box, corners, near);
+            return PlaceBySides(box, corners, nearby);
     }
 }
 
 TrianglePlace PolygonIndex::PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3],
-                                         std::vector<std::size_t> & near) const
+                                         std::vector<std::size_t> & nearby) const
 {
     TriangleFigure const triangle({corners[0], corners[1], corners[2]});
-    near.clear();
+    nearby.clear();
     m_tree.ForEach([&box](PlaneBox const & sides) { return sides.Meets(box); },
                    [&](std::size_t ordinal) {
                        if (!IsClearOf(ordinal, triangle))
-                           near.push_back(ordinal);
+                           nearby.push_back(ordinal);
                        return true;
                    });
-    if (!near.empty())
+    if (!nearby.empty())
         return TrianglePlace::kUndecided;
     return WindingNumber(corners[0]) != 0 ? TrianglePlace::kInside : TrianglePlace::kOutside;
 }

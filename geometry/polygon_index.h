@@ -63,7 +63,7 @@ class PolygonIndex
     /// Where a triangle lies, if it is clear of all sides. For an undecided one `near` becomes the ordinals
     /// of the sides that may have something in common with it, in order. An unserved one has to be taken the
     /// plain way.
-    TrianglePlace PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & near) const;
+    TrianglePlace PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & nearby) const;
 
     /// Whether a side has nothing in common with a figure that lies in the range served.
     template <class Figure>
@@ -91,7 +91,7 @@ class PolygonIndex
     bool IsNear(PlaneBox const & box) const;
     bool IsClearOfAll(PlaneBox const & box) const;
     TrianglePlace PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3],
-                               std::vector<std::size_t> & near) const;
+                               std::vector<std::size_t> & nearby) const;
     std::optional<int> ClassOnBoundary(CMathematics & math, TUVect2D const & p) const;
     int WindingNumber(TUVect2D const & p) const;
     int TurnsOf(std::size_t ordinal, TUVect2D const & p) const;

@@ -26,7 +26,7 @@ struct TriangleWork
     PlainPieces polygonPieces;
     IntervalArray intervals;
     std::vector<TSInterval> contacts;
-    std::vector<std::size_t> near;  ///< Ordinals of the polygon's sides that may touch the triangle.
+    std::vector<std::size_t> nearby;  ///< Ordinals of the polygon's sides that may touch the triangle.
 };
 
 /// A side of the triangle.
