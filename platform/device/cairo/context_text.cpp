@@ -16,7 +16,15 @@ constexpr double kTenthsPerHalfTurn = 1800;
 
 std::shared_ptr<SizedFont const> FontOf(DeviceContext const & context)
 {
-    return SizedFont::For(context.m_font->m_record, context.m_mapping.ScaleY());
+    FontObject const & font = *context.m_font.Get();
+    double const scale = context.m_mapping.ScaleY();
+    if (font.m_stock)  // the one object that threads share keeps nothing
+        return SizedFont::For(font.m_record, scale);
+    if (!font.m_sized || font.m_sizedScale != scale) {
+        font.m_sized = SizedFont::For(font.m_record, scale);
+        font.m_sizedScale = scale;
+    }
+    return font.m_sized;
 }
 
 int ToLogical(int device, double scale)

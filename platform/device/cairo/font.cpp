@@ -192,8 +192,8 @@ SizedFont::~SizedFont()
 
 void SizedFont::ReadMetrics()
 {
-    cairo_scaled_font_t * const font = ScaledFont(m_face, m_em, m_stretch, 0, true);
-    if (FT_Face const face = cairo_ft_scaled_font_lock_face(font)) {
+    m_levelFont = ScaledFont(m_face, m_em, m_stretch, 0, true);
+    if (FT_Face const face = cairo_ft_scaled_font_lock_face(m_levelFont)) {
         auto const * const os2 = static_cast<TT_OS2 const *>(FT_Get_Sfnt_Table(face, FT_SFNT_OS2));
         auto const * const hhea = static_cast<TT_HoriHeader const *>(FT_Get_Sfnt_Table(face, FT_SFNT_HHEA));
         double const unit = face->units_per_EM > 0 ? static_cast<double>(m_em) / face->units_per_EM : 0;
@@ -211,9 +211,8 @@ void SizedFont::ReadMetrics()
         m_underlineOffset = -face->underline_position * unit;
         m_lineThickness = std::max(1.0, std::round(face->underline_thickness * unit));
         ReadLetters(face);
-        cairo_ft_scaled_font_unlock_face(font);
+        cairo_ft_scaled_font_unlock_face(m_levelFont);
     }
-    cairo_scaled_font_destroy(font);
 }
 
 void SizedFont::ReadLetters(void * freetypeFace)
@@ -287,9 +286,10 @@ void ShowGlyphsAsText(cairo_t * cairo, std::string_view text, std::vector<cairo_
 
 void ShowText(cairo_t * cairo, TextLine const & line, bool asText)
 {
-    bool const hinted = !asText && line.angle == 0;
+    bool const isLevel = !asText && line.angle == 0;
     cairo_scaled_font_t * const font =
-        ScaledFont(line.font->Face(), line.font->Em(), line.font->Stretch(), line.angle, hinted);
+        isLevel ? cairo_scaled_font_reference(line.font->LevelFont())
+                : ScaledFont(line.font->Face(), line.font->Em(), line.font->Stretch(), line.angle, false);
     cairo_set_scaled_font(cairo, font);
     std::vector<cairo_glyph_t> const glyphs = Glyphs(line);
     if (asText)

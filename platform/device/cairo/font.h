@@ -36,6 +36,9 @@ class SizedFont
     double LineThickness() const { return m_lineThickness; }
     cairo_font_face_t * Face() const { return m_face; }
 
+    /// The font for level text on pixels; owned by this object.
+    cairo_scaled_font_t * LevelFont() const { return m_levelFont; }
+
     int Advance(char character) const { return m_advances[static_cast<unsigned char>(character)]; }
     unsigned long Glyph(char character) const { return m_glyphs[static_cast<unsigned char>(character)]; }
 
@@ -47,6 +50,7 @@ class SizedFont
     void ReadLetters(void * freetypeFace);
 
     cairo_font_face_t * m_face;
+    cairo_scaled_font_t * m_levelFont = nullptr;
     int m_em;
     double m_stretch;
     int m_ascent = 0, m_descent = 0, m_externalLeading = 0;

@@ -7,6 +7,8 @@
 #include "platform/device/cairo/region.h"
 
 namespace detail {
+class SizedFont;
+
 class PenObject final : public GraphicsObject
 {
   public:
@@ -34,6 +36,8 @@ class FontObject final : public GraphicsObject
     explicit FontObject(LOGFONT const & record) : GraphicsObject(kKind), m_record(record) {}
 
     LOGFONT m_record;
+    mutable std::shared_ptr<SizedFont const> m_sized;  ///< The font at the scale that it was used with last.
+    mutable double m_sizedScale = 0;
 };
 
 class BitmapObject final : public GraphicsObject

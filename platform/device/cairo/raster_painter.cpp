@@ -37,6 +37,7 @@ void RasterPainter::SetClip(Region const * clip)
     Region const visible = clip ? clip->Intersected(Bounds()) : Region(Bounds());
     m_clip = visible.Rects();
     m_clipBox = visible.Box();
+    m_cairo.reset();
 }
 
 void RasterPainter::StrokeSpan(PixelSpan const & span, Ink const & ink)
@@ -249,18 +250,28 @@ void RasterPainter::CopyRect(CRect const & part, CopyJob const & job, Ink const 
     }
 }
 
+cairo_t * RasterPainter::Cairo()
+{
+    if (!m_surface)
+        m_surface.reset(cairo_image_surface_create_for_data(
+            reinterpret_cast<unsigned char *>(m_pixels.pixels.data()), CAIRO_FORMAT_RGB24, m_pixels.width,
+            m_pixels.height, m_pixels.width * static_cast<int>(sizeof(Pixel))));
+    if (!m_cairo) {
+        m_cairo.reset(cairo_create(m_surface.get()));
+        for (CRect const & rect : m_clip)
+            cairo_rectangle(m_cairo.get(), rect.left, rect.top, rect.Width(), rect.Height());
+        cairo_clip(m_cairo.get());
+    }
+    return m_cairo.get();
+}
+
 void RasterPainter::Text(TextLine const & line, Ink const & ink)
 {
-    SurfacePointer const surface(cairo_image_surface_create_for_data(
-        reinterpret_cast<unsigned char *>(m_pixels.pixels.data()), CAIRO_FORMAT_RGB24, m_pixels.width,
-        m_pixels.height, m_pixels.width * static_cast<int>(sizeof(Pixel))));
-    CairoPointer const cairo(cairo_create(surface.get()));
-    for (CRect const & rect : m_clip)
-        cairo_rectangle(cairo.get(), rect.left, rect.top, rect.Width(), rect.Height());
-    cairo_clip(cairo.get());
-    SetColour(cairo.get(), ink.textColour);
-    ShowText(cairo.get(), line, false);
-    cairo_surface_flush(surface.get());
+    cairo_t * const cairo = Cairo();
+    cairo_surface_mark_dirty(m_surface.get());
+    SetColour(cairo, ink.textColour);
+    ShowText(cairo, line, false);
+    cairo_surface_flush(m_surface.get());
 }
 
 bool RasterPainter::SetPixel(POINT point, COLORREF colour)

@@ -40,11 +40,14 @@ class RasterPainter final : public Painter
     void FillSpans(std::span<PixelSpan const> spans, Ink const & ink);
     void StrokeSpan(PixelSpan const & span, Ink const & ink);
     void FillSpan(PixelSpan const & span, Ink const & ink);
+    cairo_t * Cairo();
     void CopyRect(CRect const & part, CopyJob const & job, Ink const & ink, DWORD operation);
 
     PixelBuffer & m_pixels;
     std::vector<CRect> m_clip;  ///< Where drawing is let through, inside the bounds.
     CRect m_clipBox;
+    SurfacePointer m_surface;  ///< Cairo's view of the pixels, made for the first text.
+    CairoPointer m_cairo;      ///< On that surface with the clip set; made anew for a new clip.
 };
 }  // namespace detail
 
