@@ -2,9 +2,10 @@
 #define KX7_GEOMETRY_MATHEMATICS_H
 
 #include "geometry/records.h"
+#include "platform/base/gdi_types.h"
 #include "platform/base/object.h"
-#include "platform/base/types.h"
 
+class CDC;
 class CPoint;
 class CRect;
 class CString;
@@ -228,8 +229,60 @@ class KX7_API CMathematics : public CObject
     int TransLssToGss(TUVect3D * origin, TUVect3D * direction, double angle, TUVect3D * point,
                       TUVect3D * result);
 
-    /// 1 if the pixel (x, y) lies in the rectangle, all four borders included.
+    // ---- drawing ----------------------------------------------------------------------------------------
+
+    // Lines are clipped to the page or the screen and not to the window, which keeps device coordinates
+    // within what the device can draw at high zoom. They take the pen that is selected.
+
+    /// The rectangle that lines are clipped to: the page for a printer (technology 2), otherwise the screen,
+    /// also for a null context.
+    CRect GetScissorRect(HDC hdc);
+    CRect GetScissorRect(CDC * dc);
+
+    /// 1 if the pixel (x, y) lies in the rectangle or the context's scissor rectangle, all four borders
+    /// included.
+    int ScissorTest(HDC hdc, int x, int y);
+    int ScissorTest(CDC * dc, int x, int y);
     int ScissorTest(CRect rect, int x, int y);
+
+    /// A line between two pixels, as far as it lies in the scissor rectangle. The 2D pen moves to its end.
+    void Line2D(HDC hdc, int x1, int y1, int x2, int y2);
+
+    /// Moves the 2D pen; the old place goes to `previous` unless that is null.
+    void MoveTo2D(HDC hdc, int const & x, int const & y, tagPOINT * previous);
+
+    /// Line2D from the 2D pen.
+    void LineTo2D(HDC hdc, int const & x, int const & y);
+
+    /// A line in space, seen with the matrix, at GetInt2DCoord's pixels. The 3D pen moves to its end.
+    void Line3D(HDC hdc, int const & originX, int const & originY, double const (*m)[3], double const & scale,
+                TUVect3D const & a, TUVect3D const & b);
+
+    /// Moves the 3D pen to a point of the model; the view doesn't matter.
+    void MoveTo3D(HDC hdc, int const & originX, int const & originY, double const (*m)[3],
+                  double const & scale, TUVect3D const & point);
+
+    /// Line3D from the 3D pen.
+    void LineTo3D(HDC hdc, int const & originX, int const & originY, double const (*m)[3],
+                  double const & scale, TUVect3D const & point);
+
+    /// Three arms through the point along x, y and z, `size` model units to each side, not clipped.
+    void Cross3D(HDC hdc, int const & originX, int const & originY, double const (*m)[3],
+                 double const & scale, TUVect3D const & point, float size);
+
+    /// A polygon of pixels filled and outlined in a colour. The brush that was selected before is handed to
+    /// DeleteObject in place of the one made here: one brush stays behind with each call.
+    void DrawFillPoly2D(HDC hdc, tagPOINT * const points, int count, unsigned long colour);
+
+    /// The same for points in space; nothing for fewer than 2.
+    void DrawFillPoly3D(HDC hdc, int const & originX, int const & originY, double const (*m)[3],
+                        double const & scale, TUVect3D * points, int count, unsigned long colour);
+
+    /// An arc in space as lines of at most `step` radians each, at least 5; a flat one as its chord. 1, or 0
+    /// with nothing drawn for an arc without a centre.
+    int Draw3dArc(HDC hdc, int const & originX, int const & originY, double const (*matrix)[3],
+                  double const & scale, TUVect3D const & start, TUVect3D const & end,
+                  TUVect3D const & arcVector, double const & bulge, double step);
 
     // ---- arcs and bulges --------------------------------------------------------------------------------
 

@@ -2,6 +2,7 @@
 #define KX7_GEOMETRY_OBJECT_3D_H
 
 #include "geometry/records.h"
+#include "platform/base/gdi_types.h"
 #include "platform/base/object.h"
 
 class CMathematics;
@@ -105,6 +106,10 @@ class KX7_API CObject3D : public CObject
 
     /// The points of the arc whose tangents pass through a point of its plane; 0 for other kinds.
     int GetTangensPoint(TUVect3D point, int * count, TUVect3D * points);
+
+    /// Draws the object as it is seen, with the pen that is selected: a point as a circle of radius 3 pixels,
+    /// if it lies on the page or screen. 1; 0 for an empty object and an arc without a centre.
+    int Draw(HDC hdc, int originX, int originY);
 
   private:
     bool IsEmpty() const;

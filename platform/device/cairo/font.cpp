@@ -43,23 +43,58 @@ std::string SubstituteFor(std::string const & face)
 
 using FaceKey = std::tuple<std::string, bool, bool>;  // family, bold, italic
 
-cairo_font_face_t * LoadFace(FaceKey const & key)
+/// Where the system keeps the best match of a face.
+struct FontFile
+{
+    std::string path;
+    int index = 0;  // of the face in the file
+};
+
+/// Reads the system's list of fonts for this one question and lets it go again: a process has few faces.
+FontFile FindFontFile(FaceKey const & key)
 {
     auto const & [family, bold, italic] = key;
+    FcConfig * const config = FcInitLoadConfigAndFonts();
     FcPattern * const wanted = FcPatternCreate();
     FcPatternAddString(wanted, FC_FAMILY, reinterpret_cast<FcChar8 const *>(family.c_str()));
     FcPatternAddInteger(wanted, FC_WEIGHT, bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
     FcPatternAddInteger(wanted, FC_SLANT, italic ? FC_SLANT_ITALIC : FC_SLANT_ROMAN);
     FcPatternAddBool(wanted, FC_SCALABLE, FcTrue);
-    FcConfigSubstitute(nullptr, wanted, FcMatchPattern);
+    FcConfigSubstitute(config, wanted, FcMatchPattern);
     FcDefaultSubstitute(wanted);
     FcResult result;
-    FcPattern * const match = FcFontMatch(nullptr, wanted, &result);
-    cairo_font_face_t * const face = cairo_ft_font_face_create_for_pattern(match ? match : wanted);
-    if (match)
+    FontFile file;
+    if (FcPattern * const match = FcFontMatch(config, wanted, &result)) {
+        FcChar8 * path = nullptr;
+        if (FcPatternGetString(match, FC_FILE, 0, &path) == FcResultMatch)
+            file.path = reinterpret_cast<char const *>(path);
+        FcPatternGetInteger(match, FC_INDEX, 0, &file.index);
         FcPatternDestroy(match);
+    }
     FcPatternDestroy(wanted);
-    return face;
+    FcConfigDestroy(config);
+    return file;
+}
+
+/// The process's FreeType, never closed, as the faces live as long as the process.
+FT_Library TheFreeType()
+{
+    static FT_Library const library = [] {
+        FT_Library made = nullptr;
+        FT_Init_FreeType(&made);
+        return made;
+    }();
+    return library;
+}
+
+/// A face of the system; where there is no font at all, the one that Cairo brings along.
+cairo_font_face_t * LoadFace(FaceKey const & key)
+{
+    FontFile const file = FindFontFile(key);
+    FT_Face face = nullptr;
+    if (FT_New_Face(TheFreeType(), file.path.c_str(), file.index, &face) == 0)
+        return cairo_ft_font_face_create_for_ft_face(face, FT_LOAD_DEFAULT);
+    return cairo_toy_font_face_create("@cairo:", CAIRO_FONT_SLANT_NORMAL, CAIRO_FONT_WEIGHT_NORMAL);
 }
 
 cairo_scaled_font_t * ScaledFont(cairo_font_face_t * face, double em, double stretch, double angle,
