@@ -505,8 +505,8 @@ class KX7_API CMathematics : public CObject
     int LineInRectangle(double const & x1, double const & y1, double const & x2, double const & y2,
                         double const & left, double const & top, double const & right, double const & bottom);
 
-    /// 1 if the segment and the rectangle have a point in common, judged by the segment's height at the
-    /// rectangle's two vertical borders.
+    /// 1 if the segment and the rectangle have a point in common. A segment that isn't vertical must pass
+    /// some way between the rectangle's vertical borders; touching one of them from outside doesn't count.
     int LineIntersectsRectangle(TUVect3D const & a, TUVect3D const & b, double const & left,
                                 double const & top, double const & right, double const & bottom,
                                 double const (*matrix)[3]);
