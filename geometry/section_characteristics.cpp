@@ -130,7 +130,8 @@ CentralMoments MomentsAboutCentroid(Characteristics const & group)
 
 double AngleOfPrincipalAxes(CentralMoments const & central, double Ixy, double equalMoments)
 {
-    if (std::fabs(central.Iyc - central.Ixc) > equalMoments)
+    bool const areEqual = std::fabs(central.Iyc - central.Ixc) <= equalMoments;
+    if (!areEqual)
         return std::atan(2.0 * central.Ixyc / (central.Iyc - central.Ixc)) / 2.0;
     if (std::fabs(Ixy) <= kNoProductMoment)
         return 0.0;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <numbers>
 #include <random>
 
@@ -332,6 +333,15 @@ TEST(SectionCharacteristics, OneVariableServesForUnwantedOutputs)
     EXPECT_EQ(g.I1, section.plain.I1);
     EXPECT_EQ(g.I2, section.plain.I2);
     EXPECT_EQ(g.alpha, section.plain.alpha);
+}
+
+TEST(SectionCharacteristics, MomentsThatAreNoNumbersHaveNoAngle)
+{
+    double const none = std::numeric_limits<double>::quiet_NaN();
+    Section section;
+    section.Add(shapes::Closed({shapes::Point(0, 0), shapes::Point(4, none), shapes::Point(0, 3)}));
+    EXPECT_TRUE(std::isnan(section.weighted.alpha));
+    EXPECT_TRUE(std::isnan(section.plain.alpha));
 }
 
 TEST(SectionCharacteristicsProperties, ParallelAxisTheorem)
