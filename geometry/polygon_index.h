@@ -55,9 +55,9 @@ class PolygonIndex
 
     /// Whether the index holds for the kernel's tolerance of the moment. With one that is rounding against
     /// the coordinates the kernel finds no place on its own sides.
-    bool Serves(CMathematics & math) const
+    bool Serves(CMathematics const & math) const
     {
-        return math.GetOkoli() <= m_okoli && math.GetOkoli() >= m_smallestOkoli;
+        return math.m_dOkoli <= m_okoli && math.m_dOkoli >= m_smallestOkoli;
     }
 
     /// Where a triangle lies, if it is clear of all sides. For an undecided one `near` becomes the ordinals

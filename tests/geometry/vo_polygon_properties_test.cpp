@@ -34,7 +34,7 @@ bool SameBits(Intersection const & a, Intersection const & b)
         Outline const p = outlines::RecordsOf((*a.sets)[i]);
         Outline const q = outlines::RecordsOf((*b.sets)[i]);
         if ((*a.sets)[i].kind != (*b.sets)[i].kind || p.size() != q.size() ||
-            std::memcmp(p.data(), q.data(), p.size() * sizeof(TSPoint2DPlane)) != 0)
+            (!p.empty() && std::memcmp(p.data(), q.data(), p.size() * sizeof(TSPoint2DPlane)) != 0))
             return false;
     }
     return true;
