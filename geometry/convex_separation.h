@@ -48,6 +48,23 @@ class ConvexFigure
         return false;
     }
 
+    /// Whether the figure lies within a circle of the radius `inner`, or beyond one of the radius `outer`,
+    /// both round `centre`. The second is told along the line to the middle of its corners alone.
+    bool IsClearOfRing(TUVect2D const & centre, double inner, double outer) const
+    {
+        double farthest = 0.0;
+        TUVect2D toMiddle{};
+        for (TUVect2D const & corner : m_corners) {
+            TUVect2D const toCorner = {{corner.x - centre.x, corner.y - centre.y}};
+            farthest = std::max(farthest, toCorner.x * toCorner.x + toCorner.y * toCorner.y);
+            toMiddle = {{toMiddle.x + toCorner.x, toMiddle.y + toCorner.y}};
+        }
+        if (inner > 0.0 && farthest < inner * inner)
+            return true;
+        double const nearest = ExtentAlong(toMiddle).low - (centre.x * toMiddle.x + centre.y * toMiddle.y);
+        return nearest > outer * std::hypot(toMiddle.x, toMiddle.y);
+    }
+
     Extent ExtentAlong(TUVect2D const & axis) const
     {
         double const first = m_corners[0].x * axis.x + m_corners[0].y * axis.y;

@@ -212,7 +212,7 @@ bool PolygonIndex::IsClearOfAll(PlaneBox const & box) const
            box.highY < reach.lowY;
 }
 
-TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & nearby) const
+TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & nearSides) const
 {
     PlaneBox box;
     for (TUVect2D const & corner : corners)
@@ -231,24 +231,33 @@ TrianglePlace PolygonIndex::PlaceOf(TUVect2D const (&corners)[3], std::vector<st
         case PolygonGrid::Answer::kOutside:
             return TrianglePlace::kOutside;
         default:
-            return PlaceBySides(box, corners, nearby);
+            return PlaceBySides(box, corners, nearSides);
     }
 }
 
 TrianglePlace PolygonIndex::PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3],
-                                         std::vector<std::size_t> & nearby) const
+                                         std::vector<std::size_t> & nearSides) const
 {
     TriangleFigure const triangle({corners[0], corners[1], corners[2]});
-    nearby.clear();
+    bool isClearOfChords = true;
+    nearSides.clear();
     m_tree.ForEach([&box](PlaneBox const & sides) { return sides.Meets(box); },
                    [&](std::size_t ordinal) {
+                       if (IsClearOfHull(ordinal, triangle))
+                           return true;
+                       isClearOfChords = false;
                        if (!IsClearOf(ordinal, triangle))
-                           nearby.push_back(ordinal);
+                           nearSides.push_back(ordinal);
                        return true;
                    });
-    if (!nearby.empty())
+    if (!nearSides.empty())
         return TrianglePlace::kUndecided;
-    return WindingNumber(corners[0]) != 0 ? TrianglePlace::kInside : TrianglePlace::kOutside;
+    bool const isInside = WindingNumber(corners[0]) != 0;
+    // On the chord of an arc rounding decides on which side of it a corner is seen.
+    if (!isClearOfChords &&
+        ((WindingNumber(corners[1]) != 0) != isInside || (WindingNumber(corners[2]) != 0) != isInside))
+        return TrianglePlace::kUndecided;
+    return isInside ? TrianglePlace::kInside : TrianglePlace::kOutside;
 }
 
 int PolygonIndex::ClassOf(CMathematics & math, TUVect2D const & p) const

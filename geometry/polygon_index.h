@@ -60,17 +60,18 @@ class PolygonIndex
         return math.m_dOkoli <= m_okoli && math.m_dOkoli >= m_smallestOkoli;
     }
 
-    /// Where a triangle lies, if it is clear of all sides. For an undecided one `near` becomes the ordinals
-    /// of the sides that may have something in common with it, in order. An unserved one has to be taken the
-    /// plain way.
-    TrianglePlace PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & nearby) const;
+    /// Where a triangle lies, if it is clear of all sides. For an undecided one `nearSides` becomes the
+    /// ordinals of the sides that may have something in common with it, in order. An unserved one has to be
+    /// taken the plain way.
+    TrianglePlace PlaceOf(TUVect2D const (&corners)[3], std::vector<std::size_t> & nearSides) const;
 
     /// Whether a side has nothing in common with a figure that lies in the range served.
     template <class Figure>
     bool IsClearOf(std::size_t ordinal, Figure const & figure) const
     {
-        double const slack = m_sides[ordinal].slack;
-        return m_hulls[ordinal].SeparatesFrom(figure, slack) || figure.SeparatesFrom(m_hulls[ordinal], slack);
+        IndexedSide const & s = m_sides[ordinal];
+        return IsClearOfHull(ordinal, figure) ||
+               (s.side.isArc && figure.IsClearOfRing(s.centre, s.radius - s.slack, s.radius + s.slack));
     }
 
     /// The class of `p` as by CMathematics::IsPointInArea, within the range served.
@@ -90,8 +91,17 @@ class PolygonIndex
     void BuildGrid(CMathematics & math);
     bool IsNear(PlaneBox const & box) const;
     bool IsClearOfAll(PlaneBox const & box) const;
+
+    /// The same as IsClearOf for a side together with the chord of an arc.
+    template <class Figure>
+    bool IsClearOfHull(std::size_t ordinal, Figure const & figure) const
+    {
+        double const slack = m_sides[ordinal].slack;
+        return m_hulls[ordinal].SeparatesFrom(figure, slack) || figure.SeparatesFrom(m_hulls[ordinal], slack);
+    }
+
     TrianglePlace PlaceBySides(PlaneBox const & box, TUVect2D const (&corners)[3],
-                               std::vector<std::size_t> & nearby) const;
+                               std::vector<std::size_t> & nearSides) const;
     std::optional<int> ClassOnBoundary(CMathematics & math, TUVect2D const & p) const;
     int WindingNumber(TUVect2D const & p) const;
     int TurnsOf(std::size_t ordinal, TUVect2D const & p) const;

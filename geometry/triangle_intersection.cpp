@@ -102,7 +102,7 @@ int TriangleIntersection::CutSide(TSelem const & e, SegmentFigure const & figure
 {
     PolygonCutKernel kernel(m_math, e, *m_index);
     ElementCut<PolygonCutKernel> cut(kernel, e, m_math.GetOkoli(), m_work.contacts, m_work.intervals);
-    for (std::size_t const ordinal : m_work.nearby) {
+    for (std::size_t const ordinal : m_work.nearSides) {
         AreaSide const & side = m_index->Side(ordinal).side;
         if (m_index->IsClearOf(ordinal, figure) || kernel.Same(side.from, side.to))
             continue;
@@ -116,9 +116,9 @@ bool TriangleIntersection::CutPolygon(ContactFlags & flags)
 {
     // The elements of a clockwise polygon run against its sides.
     if (m_index->IsReversed())
-        std::reverse(m_work.nearby.begin(), m_work.nearby.end());
+        std::reverse(m_work.nearSides.begin(), m_work.nearSides.end());
     int met = 0;
-    for (std::size_t const ordinal : m_work.nearby) {
+    for (std::size_t const ordinal : m_work.nearSides) {
         int const element = m_index->Side(ordinal).element;
         if (element < 0)
             continue;

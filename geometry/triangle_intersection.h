@@ -26,7 +26,7 @@ struct TriangleWork
     PlainPieces polygonPieces;
     IntervalArray intervals;
     std::vector<TSInterval> contacts;
-    std::vector<std::size_t> nearby;  ///< Ordinals of the polygon's sides that may touch the triangle.
+    std::vector<std::size_t> nearSides;  ///< Ordinals of the polygon's sides that may touch the triangle.
 };
 
 /// A side of the triangle.
@@ -43,7 +43,7 @@ class TriangleIntersection
 {
   public:
     /// `elements` are the sides of `points` with the interior on their left. With an `index` only the sides
-    /// that `work.near` lists are put to the triangle, without one every side.
+    /// that `work.nearSides` lists are put to the triangle, without one every side.
     TriangleIntersection(CMathematics & math, Area const & points, CArray<TSelem, TSelem &> const & elements,
                          PolygonIndex const * index, TriangleWork & work)
         : m_math(math), m_points(points), m_elements(elements), m_index(index), m_work(work)

@@ -147,7 +147,7 @@ int CVOPolygon::LoadPolygonFEMTriangleIntersection(CArray<TSPoint2DPlane, TSPoin
     if (!m_index || !m_index->Serves(*m_pMathematics) || !IsClosed(triangle))
         return IntersectPieces(triangle, nullptr, result);
     switch (m_index->PlaceOf({VertexOf(triangle[0]), VertexOf(triangle[1]), VertexOf(triangle[2])},
-                             m_work->nearby)) {
+                             m_work->nearSides)) {
         case TrianglePlace::kOutside:
             return kNoCommonArea;
         case TrianglePlace::kInside:
