@@ -13,11 +13,10 @@ ArcFrame MakeArcFrame(CMathematics & math, TUVect3D const & start, TUVect3D cons
     arc.end = end;
     arc.bulge = bulge;
     arc.middle = (start + end) * 0.5;
-    TUVect3D const chord = Unit(end - start);
-    TUVect3D const toApex = Unit(arcVector);
-    TUVect3D const side = Unit(toApex - Dot(toApex, chord) * chord);
+    arc.chord = Unit(end - start);
+    TUVect3D const side = Unit(arcVector - Dot(arcVector, arc.chord) * arc.chord);
     arc.side = bulge < 0.0 ? -side : side;
-    arc.axis = Unit(Cross(arc.side, chord));
+    arc.axis = Cross(arc.side, arc.chord);
     arc.isFlat = !math.Get3DArcCenter(start, end, arcVector, bulge, arc.centre);
     if (arc.isFlat)
         arc.centre = {};
@@ -33,7 +32,7 @@ double ArcParameter(CMathematics & math, ArcFrame const & arc, TUVect3D const & 
         return 0.0;
     if (!(arc.SideOf(p) >= 0.0))
         return kOffArc;
-    return (1.0 - Dot(Unit(p - arc.middle), Unit(arc.start - arc.middle))) / 2.0;
+    return (1.0 + Dot(Unit(p - arc.middle), arc.chord)) / 2.0;
 }
 
 bool ShareAnEnd(CMathematics & math, TUVect3D const & a1, TUVect3D const & a2, TUVect3D const & b1,

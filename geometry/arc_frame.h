@@ -35,6 +35,7 @@ struct ArcFrame
     TUVect3D start;
     TUVect3D end;
     TUVect3D middle;  ///< Of the chord.
+    TUVect3D chord;   ///< Unit vector from start to end.
     TUVect3D side;    ///< Unit vector in the plane, perpendicular to the chord, toward the apex.
     TUVect3D axis;    ///< Unit axis about which the arc turns positively from start to end.
     TUVect3D centre;  ///< The coordinate origin for a flat arc.

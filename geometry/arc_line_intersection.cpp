@@ -122,9 +122,13 @@ ArcHits IntersectCircleLine(CMathematics & math, ArcFrame const & arc, TUVect3D 
     if (hits.code == 0)
         return hits;
     hits.found = hits.code & kPointCountBits;
-    for (int i = 0; i < 2; ++i) {
+    for (int i = 0; i < hits.found; ++i) {
         hits.onArc[i] = ArcParameter(math, arc, hits.points[i]);
         hits.onOther[i] = LineParameter(math, hits.onOther[i], hits.points[i], l1, l2);
+    }
+    if (hits.found == 1) {
+        hits.onArc[1] = hits.onArc[0];
+        hits.onOther[1] = hits.onOther[0];
     }
     // Both are filled for a single point too, twice with the same values.
     hits.flags |= kFirstParameters | kSecondParameters;
