@@ -52,6 +52,8 @@ class TurnCount
     {
         if (!Visit(m_boxes.Shape().Root()))
             return kPointOnEdge;
+        if (m_isDoubtful)
+            return m_sides.PlainClassOf(m_math, m_p);
         return m_turns == 0 ? kPointOutside : kPointInside;
     }
 
@@ -121,7 +123,12 @@ class TurnCount
         double absBulge = 0.0;
         if (m_math.GetArcCentreVectorBulge(arc.start, arc.end, arc.bulge, centre, radius, toApex, absBulge))
             turn = ArcTurn(m_p, {arc.start, arc.end, arc.bulge, true}, centre, radius, toApex, turn);
-        m_turns += static_cast<int>(std::lround((turn - (to - from)) / (2.0 * std::numbers::pi)));
+        double const turns = (turn - (to - from)) / (2.0 * std::numbers::pi);
+        double const whole = std::round(turns);
+        if (!(std::fabs(turns - whole) < 1e-3))
+            m_isDoubtful = true;
+        else
+            m_turns += static_cast<int>(whole);
         return true;
     }
 
@@ -131,6 +138,9 @@ class TurnCount
     TUVect2D m_p;
     double m_margin;  ///< Points further than this from a side aren't on it.
     int m_turns = 0;
+    /// The turn of a flat arc is no whole number of turns off its chord's: only the plain sum tells the
+    /// class.
+    bool m_isDoubtful = false;
 };
 }  // namespace
 

@@ -53,9 +53,22 @@ struct RoundSide
 
     double Sagitta() const { return absBulge * of.halfChord; }
 
+    /// Whether the class of an end of another side may hang on rounding: on the chord, within the circle, the
+    /// plain method may take a point for either side of the arc.
+    bool HasEndOnChord(TSelem const & other, double margin) const
+    {
+        return IsOnChord(other.start, margin) || IsOnChord(other.end, margin);
+    }
+
     bool IsAcross(TSelem const & other, double margin) const
     {
         return HeightOf(other.start) < -margin && HeightOf(other.end) < -margin;
+    }
+
+  private:
+    bool IsOnChord(TUVect2D const & p, double margin) const
+    {
+        return std::fabs(HeightOf(p)) <= margin && Distance(p, of.middle) <= of.halfChord + margin;
     }
 };
 
@@ -65,6 +78,8 @@ bool LineIsClear(RoundSide const & round, TSelem const & line, PlaneScale const 
     if (!round.isRound)
         return false;
     double const margin = scale.Margin() + 1e-12 * round.radius;
+    if (round.HasEndOnChord(line, margin))
+        return false;
     if (round.IsAcross(line, margin))
         return true;
     double const inner = round.radius - margin;
@@ -84,6 +99,8 @@ bool ArcsAreClear(RoundSide const & a, RoundSide const & b, PlaneScale const & s
         return false;
     double const noise = 1e-12 * (a.radius + b.radius);
     double const margin = scale.Margin() + noise;
+    if (a.HasEndOnChord(b.arc, margin) || b.HasEndOnChord(a.arc, margin))
+        return false;
     double const distance = Distance(a.centre, b.centre);
     double const difference = std::fabs(a.radius - b.radius);
     if (distance > a.radius + b.radius + margin || distance < difference - margin)

@@ -54,7 +54,7 @@ int CMathematics::PolygonIntersection(CArray<TSPoint2DPlane, TSPoint2DPlane &> c
         return PolygonIntersectionPlain(*this, *a, *b, result);
     if (AreApart(sidesOfA.GetExtents(), sidesOfB.GetExtents(), m_dOkoli))
         return kNoCommonPart;
-    sidesOfA.Orient(*this, *a);
-    sidesOfB.Orient(*this, *b);
+    sidesOfA.Orient(*this);
+    sidesOfB.Orient(*this);
     return IntersectIndexed(*this, *a, sidesOfA, *b, sidesOfB, memory, result);
 }

@@ -2,12 +2,16 @@
 
 namespace detail {
 namespace {
+/// Shallower arcs add to a surface what rounding makes of them.
+constexpr double kShallowBulge = 1e-4;
+
 /// A surface between bounds, gathered side by side without the arcs' trigonometry.
 struct SurfaceBounds
 {
     double low = 0.0;
     double high = 0.0;
     double length = 0.0;
+    bool hasShallowArcs = false;
 
     void AddSide(TSelem const & side, TUVect2D const & origin)
     {
@@ -26,6 +30,7 @@ struct SurfaceBounds
     void AddArc(double quarterSquare, double bulge)
     {
         double const b = std::fabs(bulge);
+        hasShallowArcs = hasShallowArcs || (b > 0.0 && b < kShallowBulge);
         double const least = quarterSquare * b;
         double const most = 2.0 * least * std::max(1.0, b);
         low += bulge > 0.0 ? -most : least;
@@ -42,7 +47,7 @@ bool IsInRange(TSelem const & side)
 }  // namespace
 
 PolygonSides::PolygonSides(CMathematics & math, Area const & area, std::pmr::memory_resource & memory)
-    : m_sides(&memory), m_isUsable(Read(area.View(), math.GetOkoli()))
+    : m_area(area), m_sides(&memory), m_isUsable(Read(area.View(), math.GetOkoli()))
 {
 }
 
@@ -89,19 +94,26 @@ TSelem PolygonSides::ElementOf(std::uint32_t side) const
     return {s.type, 0, s.end, s.start, s.type == EDGE_ARC ? -s.bulge : 0.0};
 }
 
-void PolygonSides::Orient(CMathematics & math, Area const & area)
+int PolygonSides::PlainClassOf(CMathematics & math, TUVect2D const & p) const
+{
+    int pointClass = kPointInside;  // asks for the full test
+    math.IsPointInArea(p, &m_area, 0, pointClass);
+    return std::min(pointClass, kPointOnEdge);
+}
+
+void PolygonSides::Orient(CMathematics & math)
 {
     SurfaceBounds bounds;
     for (TSelem const & side : m_sides)
         bounds.AddSide(side, m_sides.front().start);
     // What rounding may do to the exact sum, which works with the coordinates as they are.
     double const doubt = (1e-13 + 1e-15 * static_cast<double>(m_sides.size())) * m_size * bounds.length +
-                         1e-9 * (bounds.high - bounds.low);
-    if (bounds.low > doubt)
+                         1e-6 * (bounds.high - bounds.low);
+    if (!bounds.hasShallowArcs && bounds.low > doubt)
         m_isReversed = false;
-    else if (bounds.high < -doubt)
+    else if (!bounds.hasShallowArcs && bounds.high < -doubt)
         m_isReversed = true;
     else
-        m_isReversed = !(math.GetAreaSurface(&area) > 0.0);
+        m_isReversed = !(math.GetAreaSurface(&m_area) > 0.0);
 }
 }  // namespace detail

@@ -56,14 +56,18 @@ class PolygonSides
     bool IsReversed() const { return m_isReversed; }
     TSelem ElementOf(std::uint32_t side) const;
 
+    /// The class of a point by CMathematics::IsPointInArea; but a vertex counts as an edge.
+    int PlainClassOf(CMathematics & math, TUVect2D const & p) const;
+
     /// Finds out in which direction the outline runs; before that the elements run as the sides do.
-    void Orient(CMathematics & math, Area const & area);
+    void Orient(CMathematics & math);
 
   private:
     static constexpr int kPointMark = 1;
 
     bool Read(AreaRecords records, double tolerance);
 
+    Area const & m_area;
     std::pmr::vector<TSelem> m_sides;
     Extents m_extents;
     double m_size = 0.0;

@@ -81,6 +81,34 @@ inline Outline Circle(double x, double y, double radius)
     return Closed({V(x - radius, y), Arc(-1.0), V(x + radius, y), Arc(-1.0)});
 }
 
+/// Signed surface of a closed outline, by triangles from its first vertex and circular segments: an oracle
+/// that shares nothing with the kernel and works far from the origin too.
+inline double OutlineSurface(Outline const & outline)
+{
+    double sum = 0.0;
+    TSPoint2DPlane from{};
+    double bulge = 0.0;
+    for (std::size_t i = 0; i < outline.size(); ++i) {
+        TSPoint2DPlane const to = outline[i];
+        if (IsMarker(to)) {
+            bulge = to.y;
+            continue;
+        }
+        if (i > 0) {
+            double const x = to.x - from.x;
+            double const y = to.y - from.y;
+            sum += ((from.x - outline[0].x) * y - (from.y - outline[0].y) * x) / 2;
+            double const angle = 4 * std::atan(std::fabs(bulge));
+            double const radius = std::hypot(x, y) * (1 + bulge * bulge) / 4 / std::fabs(bulge);
+            if (bulge != 0.0)
+                sum -= std::copysign(radius * radius / 2 * (angle - std::sin(angle)), bulge);
+        }
+        from = to;
+        bulge = 0.0;
+    }
+    return sum;
+}
+
 /// Frees a result of PolygonIntersection.
 struct SetsDeleter
 {

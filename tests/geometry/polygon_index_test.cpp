@@ -361,6 +361,38 @@ TEST(IndexedIntersection, OtherTolerances)
     ExpectSame(Rectangle(0, 0, 1, 1), Rectangle(0, 0, 1, 1), codes, 0.0);
 }
 
+TEST(IndexedIntersection, VerticesOnTheChordOfAnArcButForRounding)
+{
+    // The plain method takes such a vertex for either side of the arc.
+    Codes codes;
+    Outline const bowl = Closed({V(-1, 0), Arc(-1), V(1, 0), V(-3.5625, 5.1875)});
+    ExpectSame(bowl, Closed({V(0, 0), V(-0.0625, 1.7e-103), V(-2.125, 5.375), V(-0.5, 0.86602540378443871)}),
+               codes);
+    Outline const disc =
+        Closed({V(-1.8369701987210297e-16, -1), Arc(-1), V(3.0616169978683831e-16, 1), Arc(-1)});
+    ExpectSame(disc, Closed({V(0, 0), V(0.25, 0.25), V(-3, 0.5)}), codes);
+    ExpectSame(disc, Rectangle(0, -0.25, 3, 0.25), codes);
+}
+
+TEST(IndexedIntersection, ArcsOfNearlyNoBulge)
+{
+    Random random(11);
+    Codes codes;
+    for (int i = 0; i < 2000; ++i) {
+        auto const outline = [&] {
+            Outline made = i % 2 == 0 ? GridOutline(random, 6, 0.3) : RoundOutline(random, 8, 0.3);
+            for (TSPoint2DPlane & record : made)
+                if (IsMarker(record))
+                    record.y = std::copysign(
+                        std::pow(10.0, -Uniform(random, 3, Chance(random, 0.3) ? 300 : 12)), record.y);
+            return made;
+        };
+        Outline const a = outline();
+        ExpectSame(a, outline(), codes);
+    }
+    EXPECT_GE(CodesAbove(codes, 10), 2);
+}
+
 TEST(IndexedIntersection, OutlinesThatNoIndexSuits)
 {
     Codes codes;

@@ -16,13 +16,6 @@ Intersection Common(Outline const & a, Outline const & b)
     return Intersect(math, a, b);
 }
 
-double SurfaceOf(Outline const & outline)
-{
-    CMathematics math;
-    MadeArea const area(outline);
-    return math.GetAreaSurface(&area);
-}
-
 std::vector<TSGeneralSet> MembersOf(Intersection const & common, int kind)
 {
     std::vector<TSGeneralSet> members;
@@ -36,7 +29,7 @@ double CommonSurface(Intersection const & common)
 {
     double sum = 0.0;
     for (TSGeneralSet const & set : MembersOf(common, 2))
-        sum += SurfaceOf(RecordsOf(set));
+        sum += OutlineSurface(RecordsOf(set));
     return sum;
 }
 
@@ -72,7 +65,7 @@ void ExpectClosed(TSGeneralSet const & set)
     ASSERT_GE(records.size(), 3u);
     EXPECT_NEAR(records.front().x, records.back().x, 1e-6);
     EXPECT_NEAR(records.front().y, records.back().y, 1e-6);
-    EXPECT_GT(SurfaceOf(records), 0.0);
+    EXPECT_GT(OutlineSurface(records), 0.0);
 }
 
 using testing::ElementsAre;
@@ -243,7 +236,7 @@ TEST(CommonPart, HoleReachedByASlit)
     // A square ring, its outer and inner outline joined along the slit from (0, 0) to (1, 1).
     Outline const ring =
         Closed({V(0, 0), V(4, 0), V(4, 4), V(0, 4), V(0, 0), V(1, 1), V(1, 3), V(3, 3), V(3, 1), V(1, 1)});
-    EXPECT_NEAR(SurfaceOf(ring), 12.0, 1e-12);
+    EXPECT_NEAR(OutlineSurface(ring), 12.0, 1e-12);
     Intersection const common = Common(ring, Rectangle(2, -1, 5, 5));
     EXPECT_EQ(common.code, 6);
     EXPECT_NEAR(CommonSurface(common), 6.0, 1e-9);
