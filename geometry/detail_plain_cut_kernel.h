@@ -1,10 +1,9 @@
 #ifndef KX7_GEOMETRY_DETAIL_PLAIN_CUT_KERNEL_H
 #define KX7_GEOMETRY_DETAIL_PLAIN_CUT_KERNEL_H
 
-#include <algorithm>
-#include <memory>
-
 #include "geometry/detail_element_cut.h"
+#include "geometry/detail_plane_elements.h"
+#include "geometry/edges_set.h"
 #include "geometry/mathematics.h"
 
 namespace detail {
@@ -16,13 +15,17 @@ class PlainCutKernel
 
     bool Same(TUVect2D const & p, TUVect2D const & q) { return m_math.ComparePoints(p, q, 1) != 0; }
 
+    /// As CMathematics::ElemIntersection, but without an allocation that could fail unseen.
     int Meet(TSelem const & e, TSelem const & side, TSelem (&parts)[2], int & count, int & kind)
     {
-        TSelem * found = nullptr;
-        if (!m_math.ElemIntersection(e, side, found, count, kind))
+        TSPlaneEdge3D edge1 = Embedded(e);
+        TSPlaneEdge3D edge2 = Embedded(side);
+        EdgeSet found;
+        if (!IntersectEdges(m_math, edge1, edge2, found, kind))
             return 0;
-        std::unique_ptr<TSelem[]> const owner(found);
-        std::copy_n(found, 2, parts);
+        count = found.count;
+        for (int i = 0; i < count; ++i)
+            Flatten(found.edges[i], parts[i]);
         return 1;
     }
 
