@@ -40,9 +40,8 @@ BOOL CGdiObject::Attach(HGDIOBJ object)
 HGDIOBJ CGdiObject::Detach()
 {
     HGDIOBJ const object = m_hObject;
-    // Two objects may hold the same stock handle; only the one that is noted is taken off the notes.
-    if (object && detail::FindOwner(object) == this)
-        detail::RemoveOwner(object);
+    if (object)
+        detail::RemoveOwner(object, this);
     m_hObject = nullptr;
     return object;
 }

@@ -1,6 +1,7 @@
 #include "platform/device/object_map.h"
 
 #include <memory>
+#include <mutex>
 #include <unordered_map>
 
 namespace detail {
@@ -18,51 +19,59 @@ struct TemporaryDeleter
     }
 };
 
-// Graphics objects belong to the thread that made them.
-using Owners = std::unordered_map<HGDIOBJ, CGdiObject *>;
-using Temporaries = std::unordered_map<HGDIOBJ, std::unique_ptr<CGdiObject, TemporaryDeleter>>;
-
-Owners & TheOwners()
+/// Both maps of the process. They are never destroyed, because objects of static lifetime in a host may still
+/// look for themselves at its end.
+struct Maps
 {
-    static thread_local Owners owners;
-    return owners;
-}
+    std::mutex mutex;
+    std::unordered_map<HGDIOBJ, CGdiObject *> owners;
+    std::unordered_map<HGDIOBJ, std::unique_ptr<CGdiObject, TemporaryDeleter>> temporaries;
+};
 
-Temporaries & TheTemporaries()
+Maps & TheMaps()
 {
-    static thread_local Temporaries temporaries;
-    return temporaries;
+    static Maps * const maps = new Maps;
+    return *maps;
 }
 }  // namespace
 
 void EnterOwner(HGDIOBJ handle, CGdiObject * owner)
 {
-    TheTemporaries().erase(handle);
-    TheOwners()[handle] = owner;
+    // A temporary object for the handle stays: a caller may hold it as the one to put back.
+    Maps & maps = TheMaps();
+    std::lock_guard const lock(maps.mutex);
+    maps.owners[handle] = owner;
 }
 
-void RemoveOwner(HGDIOBJ handle)
+void RemoveOwner(HGDIOBJ handle, CGdiObject const * owner)
 {
-    TheOwners().erase(handle);
+    Maps & maps = TheMaps();
+    std::lock_guard const lock(maps.mutex);
+    auto const found = maps.owners.find(handle);
+    if (found != maps.owners.end() && found->second == owner)
+        maps.owners.erase(found);
 }
 
 CGdiObject * FindOwner(HGDIOBJ handle)
 {
-    auto const found = TheOwners().find(handle);
-    return found == TheOwners().end() ? nullptr : found->second;
+    Maps & maps = TheMaps();
+    std::lock_guard const lock(maps.mutex);
+    auto const found = maps.owners.find(handle);
+    return found == maps.owners.end() ? nullptr : found->second;
 }
 
 CGdiObject * FindTemporary(HGDIOBJ handle, CGdiObject * (*make)())
 {
-    Temporaries & temporaries = TheTemporaries();
-    auto const found = temporaries.find(handle);
-    if (found != temporaries.end())
+    Maps & maps = TheMaps();
+    std::lock_guard const lock(maps.mutex);
+    auto const found = maps.temporaries.find(handle);
+    if (found != maps.temporaries.end())
         return found->second.get();
-    if (temporaries.size() >= kSweepAt)
-        std::erase_if(temporaries, [](auto const & entry) { return GetObjectType(entry.first) == 0; });
+    if (maps.temporaries.size() >= kSweepAt)
+        std::erase_if(maps.temporaries, [](auto const & entry) { return GetObjectType(entry.first) == 0; });
     CGdiObject * const object = make();
     object->m_hObject = handle;
-    temporaries[handle].reset(object);
+    maps.temporaries[handle].reset(object);
     return object;
 }
 }  // namespace detail

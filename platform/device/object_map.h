@@ -7,8 +7,9 @@ namespace detail {
 /// Notes which object owns a handle, so that the handle leads back to it.
 void EnterOwner(HGDIOBJ handle, CGdiObject * owner);
 
-/// Forgets the owner of a handle.
-void RemoveOwner(HGDIOBJ handle);
+/// Forgets the owner of a handle, if it is that one: several objects may hold the same stock handle, and the
+/// last counts.
+void RemoveOwner(HGDIOBJ handle, CGdiObject const * owner);
 
 /// The object that owns a handle; null if none does.
 CGdiObject * FindOwner(HGDIOBJ handle);

@@ -166,6 +166,20 @@ TEST(SelectObject, GivesTheOldObjectBack)
     EXPECT_EQ(image.SelectObject(static_cast<CPen *>(nullptr)), nullptr);
 }
 
+TEST(SelectObject, OldObjectStaysGoodWhenAnOtherTakesItsHandle)
+{
+    CImageDC image(10, 10);
+    CPen red(PS_SOLID, 0, kRed);
+    CPen * const old = image.SelectObject(&red);
+    {
+        CPen black;
+        black.CreateStockObject(BLACK_PEN);
+        EXPECT_EQ(image.SelectObject(&black), &red);
+    }
+    image.SelectObject(old);
+    EXPECT_EQ(GetCurrentObject(image, OBJ_PEN), GetStockObject(BLACK_PEN));
+}
+
 TEST(SelectObject, BitmapGoesIntoOneContextOnly)
 {
     CImageDC image(10, 10);
