@@ -12,6 +12,7 @@
 #include "platform/base/extension_module.h"
 #include "platform/base/file.h"
 #include "platform/base/file_choice.h"
+#include "platform/base/file_system.h"
 #include "platform/base/gdi_types.h"
 #include "platform/base/keyboard.h"
 #include "platform/base/message_box.h"
@@ -34,6 +35,7 @@
 #include "foundation/basic_dll_storage.h"
 #include "foundation/name.h"
 #include "foundation/name_array.h"
+#include "foundation/path.h"
 #include "foundation/runtime_parameters.h"
 #include "foundation/sound_player.h"
 #include "foundation/stop_action.h"
@@ -46,6 +48,7 @@
 #include "foundation/vard_section_object.h"
 #include "foundation/vard_sort_list.h"
 #include "foundation/vard_string.h"
+#include "foundation/vard_string_lang.h"
 
 #include "geometry/face_3d.h"
 #include "geometry/mat_point.h"

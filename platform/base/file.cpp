@@ -8,6 +8,7 @@
 #include <system_error>
 
 #include "platform/base/code_page.h"
+#include "platform/base/file_system.h"
 
 IMPLEMENT_DYNAMIC(CFile, CObject)
 IMPLEMENT_DYNAMIC(CMemFile, CFile)
@@ -63,6 +64,8 @@ std::filesystem::path SystemPath(char const * path)
 {
     std::string text = Utf8From1250(path ? path : "");
 #if !defined(_WIN32)
+    if (text.size() >= 2 && text[1] == ':')
+        text.replace(0, 2, DriveFolder(text[0]));
     std::ranges::replace(text, '\\', '/');
 #endif
     return std::filesystem::path(std::u8string(text.begin(), text.end()));

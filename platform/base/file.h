@@ -11,7 +11,8 @@
 #include "platform/base/object.h"
 #include "platform/base/string.h"
 
-/// The system's form of a path in code page 1250. A backslash separates directories on every build.
+/// The system's form of a path in code page 1250. A backslash separates directories on every build; where the
+/// system has no drives, a drive letter stands for the folder set by SetDriveFolder (file_system.h).
 KX7_API std::filesystem::path SystemPath(char const * path);
 
 /// The text of a system path in code page 1250, in the system's own separators.

@@ -143,14 +143,20 @@ CString CString::Right(int count) const
 
 void CString::MakeUpper()
 {
-    if (!IsEmpty())
-        std::ranges::transform(Own(), m_text->begin(), UpperCase1250);
+    if (IsEmpty())
+        return;
+    // The own copy has to be made before its place is taken.
+    std::string & own = Own();
+    std::ranges::transform(own, own.begin(), UpperCase1250);
 }
 
 void CString::MakeLower()
 {
-    if (!IsEmpty())
-        std::ranges::transform(Own(), m_text->begin(), LowerCase1250);
+    if (IsEmpty())
+        return;
+    // The own copy has to be made before its place is taken.
+    std::string & own = Own();
+    std::ranges::transform(own, own.begin(), LowerCase1250);
 }
 
 void CString::TrimLeft(char const * characters)

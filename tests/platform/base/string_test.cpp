@@ -269,3 +269,31 @@ TEST(StringBuffer, TakesTheLengthUpToTheNulOrAsGiven)
     EXPECT_EQ(Text(text), "Xb!");
     CString().ReleaseBuffer();
 }
+
+TEST(StringCopy, KeepsItsTextWhateverIsDoneToTheOther)
+{
+    CString const original = "aBc dE";
+    auto const expectKept = [&](auto change) {
+        CString copy = original;
+        change(copy);
+        EXPECT_EQ(original, "aBc dE");
+        EXPECT_NE(copy, original);
+    };
+    expectKept([](CString & text) { text.MakeUpper(); });
+    expectKept([](CString & text) { text.MakeLower(); });
+    expectKept([](CString & text) { text.SetAt(0, 'x'); });
+    expectKept([](CString & text) { text += "x"; });
+    expectKept([](CString & text) { text.TrimLeft("a"); });
+    expectKept([](CString & text) { text.TrimRight("E"); });
+    expectKept([](CString & text) { text.Insert(1, 'x'); });
+    expectKept([](CString & text) { text.Insert(1, "xy"); });
+    expectKept([](CString & text) { text.Delete(0, 2); });
+    expectKept([](CString & text) { text.Remove('a'); });
+    expectKept([](CString & text) { text.Replace('a', 'x'); });
+    expectKept([](CString & text) { text.Replace("a", "xyz"); });
+    expectKept([](CString & text) { text.Format("%d", 5); });
+    expectKept([](CString & text) { text.GetBuffer(3)[0] = 'x'; });
+    expectKept([](CString & text) { text.GetBufferSetLength(2); });
+    expectKept([](CString & text) { text.ReleaseBuffer(1); });
+    expectKept([](CString & text) { text.Empty(); });
+}
