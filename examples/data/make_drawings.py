@@ -269,8 +269,8 @@ def rolled_shapes():
                ("Wpl_x", 228e-6, 4e-3)])
     angle = angle_section(100, 10, 12, 6)
     one_shape("l100x100x10.dxf", lambda d: d.lwpolyline(reversed_outline(angle)), [angle], MILLIMETRES,
-              [("area", 19.2e-4, 3e-3), ("Ix", 177e-8, 3e-3), ("xc", 28.2e-3, 2e-3), ("I1", 280e-8, 3e-3),
-               ("I2", 73.0e-8, 3e-3)])
+              [("area", 19.2e-4, 3e-3), ("Ix", 177e-8, 3e-3), ("xc", 28.2e-3, 2e-3), ("Imax", 280e-8, 3e-3),
+               ("Imin", 73.0e-8, 3e-3)])
     half_shape("ipe200_halves.dxf", ipe, ipe_values)
 
 

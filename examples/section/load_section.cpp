@@ -12,7 +12,7 @@ using outlines::OutlineSet;
 
 constexpr double kMetresPerMillimetre = 0.001;
 constexpr double kToleranceShare = 1.0 / 20000;  // of the drawing's size
-constexpr double kBoundShare = 1e-6;             // likewise
+constexpr double kBoundShare = 1e-8;             // likewise
 
 void Warn(std::string const & text)
 {

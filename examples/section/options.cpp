@@ -20,7 +20,7 @@ What is read
   --layers A,B           take these layers only
   --unit mm|cm|m|inch    length of a drawing unit (default: what the drawing's header says, else mm)
   --tolerance T          ends closer than T drawing units meet (default: the drawing's size / 20000)
-  --bound B              chords leave their arc by at most B drawing units (default: the size / 1000000)
+  --bound B              chords leave their arc by at most B drawing units (default: the size / 1e8)
 
 What is computed
   --with OTHER.dxf       also the common part with the outlines of another drawing

@@ -21,7 +21,7 @@ struct Options
     bool list = false;             ///< Only tell what the drawing holds.
     double unit = 0.0;             ///< Metres of a drawing unit; 0: by the drawing's header, else mm.
     double tolerance = 0.0;        ///< Ends closer than this meet; 0: a 20,000th of the drawing's size.
-    double bound = 0.0;            ///< How far a chord may leave its arc; 0: a millionth of the size.
+    double bound = 0.0;            ///< How far a chord may leave its arc; 0: a 1e-8th of the size.
     std::string with;              ///< Another drawing to intersect with.
     double mesh = 0.0;             ///< Side of the mesh's triangles; 0 for no mesh.
     TEBaseUnit shownUnit = BU_cm;  ///< Unit of the table's lengths.

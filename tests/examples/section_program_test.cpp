@@ -39,7 +39,10 @@ class SectionProgram : public testing::Test
 
     void TearDown() override { fs::remove_all(m_folder); }
 
-    static std::string Quoted(fs::path path) { return std::string("\"") + path.make_preferred().string() + "\""; }
+    static std::string Quoted(fs::path path)
+    {
+        return std::string("\"") + path.make_preferred().string() + "\"";
+    }
 
     static fs::path Sample(char const * name) { return fs::path(kSourceDir) / "examples/data" / name; }
 

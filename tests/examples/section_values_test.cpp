@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -52,12 +53,18 @@ SectionValues Compute(std::filesystem::path const & drawing, double boundShare)
 
 std::map<std::string, double> Quantities(SectionValues const & v)
 {
-    return {{"area", v.exactArea}, {"perimeter", v.perimeter},
-            {"xc", v.xc},          {"yc", v.yc},
-            {"Ix", v.Ixc},         {"Iy", v.Iyc},
-            {"Ixy", v.Ixyc},       {"I1", v.I1},
-            {"I2", v.I2},          {"Wx_top", v.WxTop},
-            {"Wpl_x", v.WplX},     {"Wpl_y", v.WplY}};
+    return {{"area", v.exactArea},
+            {"perimeter", v.perimeter},
+            {"xc", v.xc},
+            {"yc", v.yc},
+            {"Ix", v.Ixc},
+            {"Iy", v.Iyc},
+            {"Ixy", v.Ixyc},
+            {"Imax", std::max(v.I1, v.I2)},
+            {"Imin", std::min(v.I1, v.I2)},
+            {"Wx_top", v.WxTop},
+            {"Wpl_x", v.WplX},
+            {"Wpl_y", v.WplY}};
 }
 
 // What a value of nothing may be off by, beside values of the same kind.
