@@ -74,4 +74,15 @@
 #include "dxf/dxf_status.h"
 #include "dxf/layer_choice.h"
 
+#if defined(_WIN32)
+#include "platform/window/controls.h"
+#include "platform/window/dialog.h"
+#include "platform/window/message_map.h"
+#include "platform/window/wnd.h"
+
+#include "dxf/layer_choice_dialog.h"
+#include "services/color_text.h"
+#include "services/vard_message_dlg.h"
+#endif
+
 #endif

@@ -64,10 +64,10 @@ void CVardMessageDlg::SetButtonText(unsigned int button, CString caption)
 BOOL CVardMessageDlg::OnInitDialog()
 {
     TakeControls();
+    m_icon.SetIcon(LoadMessageIcon(m_message.icon));  // gives its control the size that the text minds
     FitText();
     m_text.SetColors(m_textColour, m_backColour);
     m_text.SetWindowText(m_message.TextInBox());
-    m_icon.SetIcon(LoadMessageIcon(m_message.icon));
 
     std::vector<int> const shown = m_message.ShownButtons();
     PlaceButtons(shown);
