@@ -8,6 +8,7 @@
 
 #include "dxf/dxf_block_basic.h"
 #include "dxf/dxf_in_basic.h"
+#include "dxf/layer_choice.h"
 #include "foundation/sound_player.h"
 #include "foundation/vard_message.h"
 
@@ -140,6 +141,7 @@ class KeepingReader : public CDXFInBasic
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const * data, std::size_t size)
 {
     SetVardMessageHandler([](TSVardMessage const & message) { return message.defaultButton; });
+    SetLayerChoiceHandler(nullptr);
     SetSoundPlayer([](char const *, DWORD) {});
     CMemFile file(data, size);
     {

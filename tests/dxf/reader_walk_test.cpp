@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "dxf/layer_choice.h"
 #include "platform/base/file_choice.h"
 #include "platform/base/wait_cursor.h"
 #include "recording_reader.h"
@@ -227,9 +228,11 @@ TEST(DrawingOpening, WithoutSuccessReadsNothing)
 
 TEST(DrawingOpening, StartsTheCounterAndTheLayersAnewButKeepsTheFilter)
 {
+    LayerChoiceHandler const before = SetLayerChoiceHandler(nullptr);  // nobody is asked
     RecordingReader reader;
     reader.SetUseLayersFilter(1);
     ReadDrawing(reader, Groups("0|SECTION; 2|TABLES; 0|LAYER; 2|A; 0|ENDSEC; 0|EOF"));
+    SetLayerChoiceHandler(before);
     CString layer("A");
     reader.SetLayerOn(layer, 0);
     EXPECT_EQ(reader.IsLayerOn(layer), 0);
