@@ -66,6 +66,7 @@
 #include "drawing/draw.h"
 #include "drawing/vard_font.h"
 
+#include "views2d/rect2d_dim_line_2d.h"
 #include "views2d/rect2d_object.h"
 
 #include "dxf/dxf_block_basic.h"
@@ -83,6 +84,7 @@
 #include "dxf/layer_choice_dialog.h"
 #include "services/color_text.h"
 #include "services/vard_message_dlg.h"
+#include "views2d/rect2d_ctrl.h"
 #endif
 
 #endif

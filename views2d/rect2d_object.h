@@ -3,18 +3,15 @@
 
 #include <memory>
 
-#include "geometry/mathematics.h"
-#include "platform/base/export.h"
 #include "platform/base/object.h"
-#include "platform/base/rect.h"
-#include "platform/device/dc.h"
+#include "views2d/detail_plane_mapping.h"
 
 /// Maps a rectangle of the model plane to a rectangle of pixels, and draws through that mapping.
 ///
 /// An axis may be given either way: with x1 above x2 the larger coordinate still goes to the right (counted
 /// from the other side, so it rounds the other way), likewise y to the bottom. A host that wants y to point
 /// up maps -y. A model rectangle without size gets a window around itself.
-class KX7_API CRect2DObject : public CObject
+class KX7_API CRect2DObject : public detail::Mapped<CObject>
 {
     DECLARE_DYNCREATE(CRect2DObject)
 
@@ -35,21 +32,6 @@ class KX7_API CRect2DObject : public CObject
     int SetModelArea(CRect rectangle, double * x1, double * y1, double * x2, double * y2, int proportional,
                      int margin);
 
-    /// The model rectangle in force and the proportional flag.
-    void GetModelArea(double * x1, double * y1, double * x2, double * y2, int * proportional) const;
-
-    /// The pixel of a model point. Always 1.
-    int ModelToInt(double x, double y, int * px, int * py) const;
-
-    /// The model point of a pixel. Not the exact inverse of ModelToInt, which rounds half a pixel further
-    /// and, for a reversed axis, counts from the other side. Always 1.
-    int IntToModel(int px, int py, double * x, double * y) const;
-
-    /// Moves the context's current position to a model point, or draws a line to it. 1, or what the drawing
-    /// gave.
-    int MoveTo(CDC * dc, double x, double y) const;
-    int LineTo(CDC * dc, double x, double y) const;
-
     /// A cross at a model point, `halfSize` pixels to each side.
     void CrossXY(CDC * dc, double x, double y, unsigned char halfSize) const;
 
@@ -57,34 +39,8 @@ class KX7_API CRect2DObject : public CObject
     /// radius.
     void CircleXY(CDC * dc, double x, double y, double diameter) const;
 
-    /// The model point of the context's current position.
-    void GetCurrentPosition(CDC * dc, double * x, double * y) const;
-
-    /// Fills the rectangle between two model points; nothing is filled with a null brush.
-    void FillRect(CDC * dc, double x1, double y1, double x2, double y2, CBrush * brush) const;
-
   private:
-    // One axis of the mapping.
-    struct Axis
-    {
-        double first = 0.0, last = 0.0;  // model coordinates after adjustment
-        int origin = 0;                  // pixel offset of the model origin
-        double scale = 0.0;              // pixels per model unit; negative for a reversed axis
-        int reversed = 0;
-        double span = 0.0;  // last - first
-
-        void WidenTo(double newSpan);
-        void SetPixels(CMathematics & kernel, int low, int high, int size);
-        int ToPixel(CMathematics & kernel, double value, int size) const;
-        double ToModel(int pixel) const;
-    };
-
     std::unique_ptr<CMathematics> m_ownKernel;
-    CMathematics * m_kernel;
-    int m_proportional = 0;
-    Axis m_x, m_y;
-    CRect m_rectangle;
-    int m_width = 0, m_height = 0;
 };
 
 #endif
