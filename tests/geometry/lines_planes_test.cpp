@@ -235,8 +235,7 @@ TEST(PointsAndLines, OddNumbersEnd)
         math.DefinePlane(a, b, p, plane);
         math.PointLiesOnLine(a, b, p);
         math.PointLiesInPlane(a, b, p);
-        if (math.GetDistancePointToLine(p, a, b, value, out, t))
-        {
+        if (math.GetDistancePointToLine(p, a, b, value, out, t)) {
             ASSERT_TRUE(std::isfinite(value));
         }
         int const where = math.IsPointOnExtendedLine(a, b, p);
