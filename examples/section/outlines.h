@@ -74,6 +74,9 @@ Box BoxOf(Path const & sides);
 /// Length of a side, along its arc.
 double LengthOf(TSPlaneEdge2D const & side);
 
+/// Appends the side, an arc cut where it turns in x or y, so that the ends of the pieces span its extents.
+void AppendSplit(TSPlaneEdge2D const & side, Path & pieces);
+
 /// Appends the points of a side behind its start: its end for a straight side; for an arc the ends of chords
 /// that stay within `bound` of it, and the points where it turns in x or y, so that extents come out exactly.
 void AppendFlattened(TSPlaneEdge2D const & side, double bound, std::vector<TUVect2D> & points);

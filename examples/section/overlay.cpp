@@ -69,8 +69,12 @@ std::vector<MeshedOutline> Prepare(CMathematics & kernel, std::vector<Outline> c
 {
     std::vector<MeshedOutline> prepared;
     for (Outline const & outline : section) {
+        // The polygon's box holds its vertices alone, so arcs are cut where they reach farthest.
+        outlines::Path pieces;
+        for (TSPlaneEdge2D const & side : outline.sides)
+            outlines::AppendSplit(side, pieces);
         Area area;
-        outlines::FillArea(outline.sides, area);
+        outlines::FillArea(pieces, area);
         prepared.push_back({std::make_unique<CVOPolygon>(&kernel), outline.IsHole() ? -1.0 : 1.0});
         prepared.back().polygon->Create(area, 0);
     }

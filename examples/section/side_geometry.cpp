@@ -89,6 +89,27 @@ double LengthOf(TSPlaneEdge2D const & side)
     return circle.radius * std::fabs(circle.sweep);
 }
 
+void AppendSplit(TSPlaneEdge2D const & side, Path & pieces)
+{
+    if (side.bulge == 0) {
+        pieces.push_back(side);
+        return;
+    }
+    constexpr double kShortest = 1e-9;  // of the arc; a turning point this near to an end is the end
+    ArcCircle const circle = CircleOf(side);
+    std::vector<double> stops = TurningFractions(circle);
+    std::erase_if(stops, [](double stop) { return stop < kShortest || stop > 1 - kShortest; });
+    stops.push_back(1.0);
+    TUVect2D start = side.start;
+    double from = 0.0;
+    for (double to : stops) {
+        TUVect2D const end = to < 1.0 ? PointAt(circle, to) : side.end;
+        pieces.push_back({start, end, std::tan(std::atan(side.bulge) * (to - from))});
+        start = end;
+        from = to;
+    }
+}
+
 void AppendFlattened(TSPlaneEdge2D const & side, double bound, std::vector<TUVect2D> & points)
 {
     constexpr int kMostChords = 20000;  // between two turning points, however small the bound

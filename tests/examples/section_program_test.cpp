@@ -188,6 +188,15 @@ TEST_F(SectionProgram, ComputesTheCommonPartAndTheMesh)
         << outcome.output;
 }
 
+TEST_F(SectionProgram, MeshSeesArcsThatBulgeOutwards)
+{
+    Outcome const outcome = Run(Quoted(Sample("pipes.dxf")) + " --no-files --units mm --mesh 9");
+    // Six rings of 30^2 - 25^2 times pi.
+    EXPECT_NE(outcome.output.find("Sum of the overlaps                         sum A           5183.628 mm2"),
+              std::string::npos)
+        << outcome.output;
+}
+
 TEST_F(SectionProgram, TellsWhatDoesNotClose)
 {
     std::string entities = kSquare + LineEntity(20, 0, 30, 0) + LineEntity(30, 0, 30, 10);

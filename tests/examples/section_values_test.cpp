@@ -193,6 +193,29 @@ TEST(SideGeometry, ArcHasItsBoxAndLength)
     EXPECT_NEAR(outlines::LengthOf(arc), std::acos(-1.0), 1e-14);
 }
 
+TEST(SideGeometry, SplitArcKeepsItsCourse)
+{
+    for (double bulge : {-3.0, -1.0, -0.2, 0.7, 8.0}) {
+        TSPlaneEdge2D const arc{{{0.3, -0.2}}, {{1.4, 0.9}}, bulge};
+        outlines::Path pieces;
+        outlines::AppendSplit(arc, pieces);
+        double length = 0.0;
+        outlines::Box box{arc.start, arc.start};
+        for (TSPlaneEdge2D const & piece : pieces) {
+            length += outlines::LengthOf(piece);
+            box.min = {{std::min(box.min.x, piece.end.x), std::min(box.min.y, piece.end.y)}};
+            box.max = {{std::max(box.max.x, piece.end.x), std::max(box.max.y, piece.end.y)}};
+        }
+        EXPECT_NEAR(length, outlines::LengthOf(arc), 1e-12 * length);
+        outlines::Box const whole = outlines::BoxOf({arc});
+        EXPECT_NEAR(box.min.x, whole.min.x, 1e-12);
+        EXPECT_NEAR(box.min.y, whole.min.y, 1e-12);
+        EXPECT_NEAR(box.max.x, whole.max.x, 1e-12);
+        EXPECT_NEAR(box.max.y, whole.max.y, 1e-12);
+        EXPECT_EQ(pieces.back().end.x, arc.end.x);
+    }
+}
+
 TEST(SideGeometry, ChordsStayWithinTheBound)
 {
     for (double bulge : {-3.0, -1.0, -0.2, 0.05, 0.7, 8.0})
