@@ -12,7 +12,7 @@ void GeneralSets::Append(int kind, std::unique_ptr<Area> points)
 {
     TSGeneralSet member{kind, points.get()};
     m_sets->Add(member);
-    points.release();
+    static_cast<void>(points.release());  // the member owns them now
 }
 
 void FreeGeneralSets(GeneralSetArray * sets)

@@ -23,8 +23,9 @@ using outlines::Outline;
 
 constexpr double kMostTriangles = 4e6;  // of a mesh
 
-// The library tells a failed reading by its message box; here the error line does, so the box stays shut.
-int SilentMessageBox(char const *, unsigned int)
+// The library tells a failed reading by the suite's message box; here the error line does, so the box stays
+// shut.
+int SilentMessage(TSVardMessage const &)
 {
     return IDOK;
 }
@@ -112,7 +113,7 @@ int main(int argc, char ** argv)
 #if defined(_WIN32)
     _setmode(_fileno(stdout), _O_BINARY);  // the same bytes on every build
 #endif
-    SetMessageBoxHandler(SilentMessageBox);
+    SetVardMessageHandler(SilentMessage);
     try {
         Options const options = ParseOptions(argc, argv);
         if (options.help)

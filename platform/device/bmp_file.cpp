@@ -34,7 +34,7 @@ Bytes Headers(int width, int height, std::size_t pixelBytes)
     Append(bytes, static_cast<std::uint64_t>(width), 4);
     Append(bytes, static_cast<std::uint64_t>(height), 4);
     Append(bytes, 1, 2);
-    Append(bytes, 8 * kBytesPerPixel, 2);
+    Append(bytes, std::uint64_t{8} * kBytesPerPixel, 2);
     Append(bytes, 0, 4);
     Append(bytes, pixelBytes, 4);
     bytes.resize(kHeaderBytes);  // resolution and colour counts stay 0
