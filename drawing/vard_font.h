@@ -4,6 +4,10 @@
 #include "geometry/records.h"
 #include "platform/device/dc.h"
 
+#if defined(_WIN32)
+class CWnd;
+#endif
+
 /// A font with a colour. It converts between points (1/72 inch) and the logical heights of a device, and
 /// works out how a text in space looks in a projection.
 class KX7_API CVARDFont : public CObject
@@ -17,6 +21,14 @@ class KX7_API CVARDFont : public CObject
     /// The given font and colour; the context (may be null) serves conversions and must outlive the object.
     CVARDFont(LOGFONT font, unsigned long crColor, CDC * pDC);
 
+#if defined(_WIN32)
+    /// The font of a window, in white; an all-zero record for a window without a font of its own.
+    explicit CVARDFont(CWnd * pWnd);
+
+    /// The given font and colour; the window isn't kept.
+    CVARDFont(LOGFONT font, unsigned long crColor, CWnd * pWnd);
+#endif
+
     /// Lets the user choose a font and colour, beginning with this one. 1 when confirmed, otherwise 0 and
     /// nothing changes.
     int ChangeFontByDialog();
@@ -27,13 +39,19 @@ class KX7_API CVARDFont : public CObject
     /// -(value * dots per inch / 72), rounded: a negative height, as LOGFONT wants it. The context as above.
     long PointsToLogicalUnits(long nPoints, CDC * pDC);
 
-    void SetFont(LOGFONT font) { m_font = font; }
+    void SetFont(LOGFONT font)
+    {
+        m_font = font;
+    }
 
     /// Sets the height from points by the stored context (0 without one), escapement and orientation in
     /// tenths of a degree, and the face; a null face stays.
     void SetFont(long nPoints, long nAngle, char * pszFace);
 
-    void SetFontColor(unsigned long crColor) { m_colour = static_cast<COLORREF>(crColor); }
+    void SetFontColor(unsigned long crColor)
+    {
+        m_colour = static_cast<COLORREF>(crColor);
+    }
 
     /// Weight 700 when the value is 1, otherwise 400. The result tells whether it was above 400.
     int SetBold(int bBold);
@@ -43,16 +61,37 @@ class KX7_API CVARDFont : public CObject
     int SetUnderline(int bUnderline);
     int SetStrikeOut(int bStrikeOut);
 
-    LOGFONT GetFont() const { return m_font; }
+    LOGFONT GetFont() const
+    {
+        return m_font;
+    }
     /// Height in points by the stored context; 0 without one.
-    long GetFontPoints() { return LogicalUnitsToPoints(m_font.lfHeight, nullptr); }
+    long GetFontPoints()
+    {
+        return LogicalUnitsToPoints(m_font.lfHeight, nullptr);
+    }
     /// Escapement in tenths of a degree.
-    long GetFontAngle() const { return m_font.lfEscapement; }
-    unsigned long GetFontColor() const { return m_colour; }
+    long GetFontAngle() const
+    {
+        return m_font.lfEscapement;
+    }
+    unsigned long GetFontColor() const
+    {
+        return m_colour;
+    }
     int IsBold() const;
-    int IsItalic() const { return m_font.lfItalic; }
-    int IsUnderline() const { return m_font.lfUnderline; }
-    int IsStrikeOut() const { return m_font.lfStrikeOut; }
+    int IsItalic() const
+    {
+        return m_font.lfItalic;
+    }
+    int IsUnderline() const
+    {
+        return m_font.lfUnderline;
+    }
+    int IsStrikeOut() const
+    {
+        return m_font.lfStrikeOut;
+    }
 
     /// How a text in space looks through a view matrix: a text at P with its base line toward Pa and its up
     /// direction toward Pb. Gives the angles of the projected base line and up direction in radians, from

@@ -29,7 +29,7 @@ struct TSFileChoice
 using FileChoiceHandler = int (*)(TSFileChoice const & choice, CString & path);
 
 /// Sets what stands for the system's open and save dialogs; null for none, which cancels each choice. The
-/// result is the handler that was set before.
+/// result is the handler that was set before: on Windows the dialogs themselves, elsewhere null.
 KX7_API FileChoiceHandler SetFileChoiceHandler(FileChoiceHandler handler);
 
 /// Asks the handler.

@@ -44,7 +44,7 @@ TEST_F(Font, ReadsTheFontOfAContextInWhite)
 
 TEST_F(Font, WithoutAContextIsAllZero)
 {
-    CVARDFont font(nullptr);
+    CVARDFont font(static_cast<CDC *>(nullptr));
     EXPECT_EQ(font.GetFont().lfHeight, 0);
     EXPECT_EQ(font.GetFontPoints(), 0);
     EXPECT_EQ(font.LogicalUnitsToPoints(-16, nullptr), 0);
@@ -64,7 +64,7 @@ TEST_F(Font, PointsAndLogicalUnits)
 
 TEST_F(Font, GivenContextReplacesTheStoredOne)
 {
-    CVARDFont font(Times(-16, FW_NORMAL), 0, nullptr);
+    CVARDFont font(Times(-16, FW_NORMAL), 0, static_cast<CDC *>(nullptr));
     EXPECT_EQ(font.GetFontPoints(), 0);
     EXPECT_EQ(font.LogicalUnitsToPoints(-16, &m_image), 12);
     EXPECT_EQ(font.GetFontPoints(), 12);
@@ -162,7 +162,7 @@ struct TextParameters
 
 TextParameters Parameters(double (*matrix)[3], TUVect3D base, TUVect3D up)
 {
-    CVARDFont font(nullptr);
+    CVARDFont font(static_cast<CDC *>(nullptr));
     TUVect3D const origin = {{2, 3, 4}};
     auto const moved = [&origin](TUVect3D v) {
         return TUVect3D{{v.x + origin.x, v.y + origin.y, v.z + origin.z}};
@@ -222,7 +222,7 @@ TEST_F(TextInSpace, SlantedDirectionsShrink)
 
 TEST_F(TextInSpace, LogFontStaysAsItStands)
 {
-    CVARDFont font(Times(-16, FW_NORMAL), 0, nullptr);
+    CVARDFont font(Times(-16, FW_NORMAL), 0, static_cast<CDC *>(nullptr));
     LOGFONT const record = font.Get3DLogFont(m_plan, {{0, 0, 0}}, {{0, 1, 0}}, {{-1, 0, 0}});
     EXPECT_EQ(record.lfEscapement, 0);
     EXPECT_EQ(record.lfHeight, -16);
