@@ -131,7 +131,11 @@ void FillMoments(Characteristics const & sum, TUVect2D const & origin, SectionVa
     values.Ixy = sum.Ixyc + sum.A * values.xc * values.yc;
     values.I1 = sum.I1;
     values.I2 = sum.I2;
-    values.alpha = sum.alpha;
+    // With equal moments every axis is a principal one, and rounding alone would choose it.
+    constexpr double kEqualMoments = 1e-6;  // of the polar moment
+    bool const allPrincipal =
+        std::hypot((sum.Ixc - sum.Iyc) / 2, sum.Ixyc) <= kEqualMoments * (sum.Ixc + sum.Iyc);
+    values.alpha = allPrincipal ? 0.0 : sum.alpha;
 }
 
 void FillDerived(SectionValues & values)
